@@ -1,0 +1,277 @@
+/* veks: signal-processing primitives with a plain C interface.
+ *
+ * Every function returns a VekResult (0 success, negative error with nothing
+ * written, positive warning after the whole output was written), takes
+ * lengths in elements, and keeps no state outside the caller's blocks. */
+#ifndef VEKS_H
+#define VEKS_H
+
+#if defined(VEKS_BUILDING_LIBRARY) && defined(__GNUC__)
+#define VEKS_API __attribute__((visibility("default")))
+#else
+#define VEKS_API
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- element types ---------------------------------------------------- */
+
+typedef unsigned char T1u; /* bit strings: a byte pointer plus a bit offset */
+typedef unsigned char T8u;
+typedef signed char T8s;
+typedef unsigned short T16u;
+typedef short T16s;
+typedef int T32s;
+typedef unsigned int T32u;
+typedef long long T64s;
+typedef unsigned long long T64u;
+typedef unsigned short T16f; /* IEEE 754 half precision bit pattern */
+typedef float T32f;
+typedef double T64f;
+
+/* 24-bit integers packed little-endian in three bytes; byte 2 is the top. */
+typedef struct { unsigned char b[3]; } T24u;
+typedef struct { unsigned char b[3]; } T24s;
+
+/* Complex elements: re first, im second, no gap. */
+typedef struct { T8s re; T8s im; } T8sc;
+typedef struct { T16s re; T16s im; } T16sc;
+typedef struct { T32s re; T32s im; } T32sc;
+typedef struct { T64s re; T64s im; } T64sc;
+typedef struct { T32f re; T32f im; } T32fc;
+typedef struct { T64f re; T64f im; } T64fc;
+
+/* ---- status values ---------------------------------------------------- */
+
+typedef int VekResult;
+
+enum {
+    VEK_OK = 0,
+    VEK_ERR_BAD_ARG = -5,
+    VEK_ERR_SIZE = -6,
+    VEK_ERR_ZERO_CROSSING_TYPE = -7,
+    VEK_ERR_NULL_POINTER = -8,
+    VEK_ERR_NO_MEMORY = -9,
+    VEK_ERR_DIV_BY_ZERO = -10,
+    VEK_ERR_CAUCHY_PARAM = -11,
+    VEK_ERR_DATA_TYPE = -12,
+    VEK_ERR_TAPS_SCALE = -13,
+    VEK_ERR_FFT_ORDER = -15,
+    VEK_ERR_FFT_FLAG = -16,
+    VEK_ERR_CONTEXT_MISMATCH = -17,
+    VEK_ERR_LEVEL_ORDER = -18,
+    VEK_ERR_NEGATIVE_LEVEL = -19,
+    VEK_ERR_DLY_INDEX = -24,
+    VEK_ERR_IIR_ORDER = -25,
+    VEK_ERR_FIR_LEN = -26,
+    VEK_ERR_REL_FREQ = -27,
+    VEK_ERR_FIRMR_PHASE = -28,
+    VEK_ERR_FIRMR_FACTOR = -29,
+    VEK_ERR_SAMPLE_PHASE = -30,
+    VEK_ERR_SAMPLE_FACTOR = -31,
+    VEK_ERR_SHIFT = -32,
+    VEK_ERR_MASK_SIZE = -33,
+    VEK_ERR_WT_OFFSET = -35,
+    VEK_ERR_JAEHNE_MAGN = -38,
+    VEK_ERR_KAISER_ALPHA = -39,
+    VEK_ERR_TRIANGLE_ASYM = -40,
+    VEK_ERR_TRIANGLE_PHASE = -41,
+    VEK_ERR_TRIANGLE_FREQ = -42,
+    VEK_ERR_TRIANGLE_MAGN = -43,
+    VEK_ERR_TONE_PHASE = -44,
+    VEK_ERR_TONE_FREQ = -45,
+    VEK_ERR_TONE_MAGN = -46,
+    VEK_ERR_CHANNEL_COUNT = -47,
+    VEK_ERR_NUM_CHANNELS = -53,
+    VEK_ERR_SIZE_MULTIPLE = -182,
+    VEK_ERR_SPARSE_TAPS = -194,
+    VEK_ERR_ZERO_COEFF = -195,
+    VEK_ERR_IIR_GEN_ORDER = -206,
+    VEK_ERR_IIR_GEN_FREQ = -208,
+    VEK_ERR_IIR_GEN_DEVIATION = -209,
+    VEK_ERR_ROUND_MODE = -213,
+    VEK_ERR_ALG_TYPE = -228,
+    VEK_WRN_SQRT_NEGATIVE = 3,
+    VEK_WRN_INV_ZERO = 4,
+    VEK_WRN_EVEN_MEDIAN_MASK = 5,
+    VEK_WRN_DIV_BY_ZERO = 6,
+    VEK_WRN_LOG_ZERO = 7,
+    VEK_WRN_LOG_NEGATIVE = 8,
+    VEK_WRN_NON_FINITE = 9
+};
+
+/* ---- argument constants ----------------------------------------------- */
+
+enum { VEK_ROUND_ZERO = 0, VEK_ROUND_NEAR = 1, VEK_ROUND_HALF_AWAY = 2 };
+enum { VEK_HINT_NONE = 0, VEK_HINT_FAST = 1, VEK_HINT_ACCURATE = 2 };
+enum {
+    VEK_FFT_SCALE_FWD = 1,
+    VEK_FFT_SCALE_INV = 2,
+    VEK_FFT_SCALE_SQRT = 4,
+    VEK_FFT_SCALE_NONE = 8
+};
+enum { VEK_ALG_AUTO = 0, VEK_ALG_DIRECT = 1, VEK_ALG_FFT = 2 };
+enum { VEK_NORM_NONE = 0, VEK_NORM_BIASED = 256, VEK_NORM_UNBIASED = 512 };
+enum { VEK_DATATYPE_32F = 13, VEK_DATATYPE_64F = 19 };
+enum { VEK_CMP_LT = 0, VEK_CMP_LE = 1, VEK_CMP_EQ = 2, VEK_CMP_GE = 3, VEK_CMP_GT = 4 };
+enum { VEK_IIR_BUTTERWORTH = 0, VEK_IIR_CHEBYSHEV1 = 1 };
+
+/* ---- version record --------------------------------------------------- */
+
+typedef struct {
+    int major;
+    int minor;
+    int update;
+    int build;
+    char targetCode[4];
+    const char* name;
+    const char* version;
+    const char* buildDate;
+} VekLibraryVersion;
+
+/* ---- opaque blocks ---------------------------------------------------- */
+
+typedef struct FftSpec_C_16s FftSpec_C_16s;
+typedef struct FftSpec_C_16sc FftSpec_C_16sc;
+typedef struct FftSpec_C_32f FftSpec_C_32f;
+typedef struct FftSpec_C_32fc FftSpec_C_32fc;
+typedef struct FftSpec_C_32s FftSpec_C_32s;
+typedef struct FftSpec_C_32sc FftSpec_C_32sc;
+typedef struct FftSpec_C_64f FftSpec_C_64f;
+typedef struct FftSpec_C_64fc FftSpec_C_64fc;
+typedef struct FftSpec_R_16s FftSpec_R_16s;
+typedef struct FftSpec_R_16s32s FftSpec_R_16s32s;
+typedef struct FftSpec_R_32f FftSpec_R_32f;
+typedef struct FftSpec_R_32s FftSpec_R_32s;
+typedef struct FftSpec_R_64f FftSpec_R_64f;
+typedef struct DftSpec_C_16s DftSpec_C_16s;
+typedef struct DftSpec_C_16sc DftSpec_C_16sc;
+typedef struct DftSpec_C_32f DftSpec_C_32f;
+typedef struct DftSpec_C_32fc DftSpec_C_32fc;
+typedef struct DftSpec_C_64f DftSpec_C_64f;
+typedef struct DftSpec_C_64fc DftSpec_C_64fc;
+typedef struct DftSpec_R_16s DftSpec_R_16s;
+typedef struct DftSpec_R_32f DftSpec_R_32f;
+typedef struct DftSpec_R_64f DftSpec_R_64f;
+typedef struct DftOutOrdSpec_C_32fc DftOutOrdSpec_C_32fc;
+typedef struct DftOutOrdSpec_C_64fc DftOutOrdSpec_C_64fc;
+typedef struct DctFwdSpec_16s DctFwdSpec_16s;
+typedef struct DctFwdSpec_32f DctFwdSpec_32f;
+typedef struct DctFwdSpec_64f DctFwdSpec_64f;
+typedef struct DctInvSpec_16s DctInvSpec_16s;
+typedef struct DctInvSpec_32f DctInvSpec_32f;
+typedef struct DctInvSpec_64f DctInvSpec_64f;
+typedef struct HilbertSpec_16s16sc HilbertSpec_16s16sc;
+typedef struct HilbertSpec_16s32fc HilbertSpec_16s32fc;
+typedef struct HilbertSpec_32f32fc HilbertSpec_32f32fc;
+typedef struct WtFwdState_16s32f WtFwdState_16s32f;
+typedef struct WtFwdState_16u32f WtFwdState_16u32f;
+typedef struct WtFwdState_32f WtFwdState_32f;
+typedef struct WtFwdState_8s32f WtFwdState_8s32f;
+typedef struct WtFwdState_8u32f WtFwdState_8u32f;
+typedef struct WtInvState_32f WtInvState_32f;
+typedef struct WtInvState_32f16s WtInvState_32f16s;
+typedef struct WtInvState_32f16u WtInvState_32f16u;
+typedef struct WtInvState_32f8s WtInvState_32f8s;
+typedef struct WtInvState_32f8u WtInvState_32f8u;
+typedef struct FirState_16s FirState_16s;
+typedef struct FirState_32f FirState_32f;
+typedef struct FirState_32fc FirState_32fc;
+typedef struct FirState_32s FirState_32s;
+typedef struct FirState_64f FirState_64f;
+typedef struct FirState_64fc FirState_64fc;
+typedef struct FirState32f_16s FirState32f_16s;
+typedef struct FirState32fc_16sc FirState32fc_16sc;
+typedef struct FirState32s_16s FirState32s_16s;
+typedef struct FirState32sc_16sc FirState32sc_16sc;
+typedef struct FirState64f_16s FirState64f_16s;
+typedef struct FirState64f_32f FirState64f_32f;
+typedef struct FirState64f_32s FirState64f_32s;
+typedef struct FirState64fc_16sc FirState64fc_16sc;
+typedef struct FirState64fc_32fc FirState64fc_32fc;
+typedef struct FirState64fc_32sc FirState64fc_32sc;
+typedef struct FirLmsState_32f FirLmsState_32f;
+typedef struct FirLmsState32f_16s FirLmsState32f_16s;
+typedef struct FirLmsMrState32s_16s FirLmsMrState32s_16s;
+typedef struct FirLmsMrState32sc_16sc FirLmsMrState32sc_16sc;
+typedef struct FirSrSpec_32f FirSrSpec_32f;
+typedef struct FirSrSpec_64f FirSrSpec_64f;
+typedef struct FirSparseState_32f FirSparseState_32f;
+typedef struct IirState_32f IirState_32f;
+typedef struct IirState_32fc IirState_32fc;
+typedef struct IirState_64f IirState_64f;
+typedef struct IirState_64fc IirState_64fc;
+typedef struct IirState32f_16s IirState32f_16s;
+typedef struct IirState32fc_16sc IirState32fc_16sc;
+typedef struct IirState32s_16s IirState32s_16s;
+typedef struct IirState32sc_16sc IirState32sc_16sc;
+typedef struct IirState64f_16s IirState64f_16s;
+typedef struct IirState64f_32f IirState64f_32f;
+typedef struct IirState64f_32s IirState64f_32s;
+typedef struct IirState64fc_16sc IirState64fc_16sc;
+typedef struct IirState64fc_32fc IirState64fc_32fc;
+typedef struct IirState64fc_32sc IirState64fc_32sc;
+typedef struct IirSparseState_32f IirSparseState_32f;
+typedef struct RandGaussState_16s RandGaussState_16s;
+typedef struct RandGaussState_32f RandGaussState_32f;
+typedef struct RandGaussState_8u RandGaussState_8u;
+typedef struct RandUniState_16s RandUniState_16s;
+typedef struct RandUniState_32f RandUniState_32f;
+typedef struct RandUniState_8u RandUniState_8u;
+typedef struct ResamplePolyphaseState_16s ResamplePolyphaseState_16s;
+typedef struct ResamplePolyphaseState_32f ResamplePolyphaseState_32f;
+typedef struct ResamplePolyphaseFixedState_16s ResamplePolyphaseFixedState_16s;
+typedef struct ResamplePolyphaseFixedState_32f ResamplePolyphaseFixedState_32f;
+typedef struct ToneState_16s ToneState_16s;
+typedef struct TriangleState_16s TriangleState_16s;
+
+/* ======================================================================== *
+ * Exports, grouped by family. Each prototype matches the project's export  *
+ * list (api/ tables) character for character once white space is folded.    *
+ * ======================================================================== */
+
+/* ---- library frame ---------------------------------------------------- */
+
+VEKS_API const VekLibraryVersion* veksGetLibVersion(void);
+VEKS_API T8u* veksMalloc_8u(int len);
+VEKS_API T8s* veksMalloc_8s(int len);
+VEKS_API T16u* veksMalloc_16u(int len);
+VEKS_API T16s* veksMalloc_16s(int len);
+VEKS_API T8sc* veksMalloc_8sc(int len);
+VEKS_API T32f* veksMalloc_32f(int len);
+VEKS_API T32s* veksMalloc_32s(int len);
+VEKS_API T32u* veksMalloc_32u(int len);
+VEKS_API T16sc* veksMalloc_16sc(int len);
+VEKS_API T64f* veksMalloc_64f(int len);
+VEKS_API T64s* veksMalloc_64s(int len);
+VEKS_API T32fc* veksMalloc_32fc(int len);
+VEKS_API T32sc* veksMalloc_32sc(int len);
+VEKS_API T64fc* veksMalloc_64fc(int len);
+VEKS_API T64sc* veksMalloc_64sc(int len);
+VEKS_API void veksFree(void* ptr);
+
+/* ---- arithmetic: add, subtract, multiply, divide ------------------------ */
+/* (section: arith) */
+
+/* ---- arithmetic: logic and shifts --------------------------------------- */
+/* (section: logic) */
+
+/* ---- set, zero, copy, move ---------------------------------------------- */
+/* (section: init) */
+
+/* ---- type conversion ---------------------------------------------------- */
+/* (section: convert) */
+
+/* ---- complex and polar data, flip, preemphasis ------------------------- */
+/* (section: complex) */
+
+/* ---- FFT ---------------------------------------------------------------- */
+/* (section: fft) */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif /* VEKS_H */
