@@ -27,24 +27,7 @@ bool osSavesYmm(const Cpuid& l1) {
     return (lo & 6u) == 6u;
 }
 
-}  // namespace
-
-extern "C" {
-
-VEKCORE_API void* vekMalloc(size_t length) {
-    void* p = nullptr;
-    if (posix_memalign(&p, VEK_MALLOC_ALIGNMENT, length ? length : 1) != 0) return nullptr;
-    return p;
-}
-
-VEKCORE_API void vekFree(void* ptr) { free(ptr); }
-
-VEKCORE_API void* vekAlignPtr(void* ptr, int alignBytes) {
-    const uintptr_t a = static_cast<uintptr_t>(alignBytes);
-    return reinterpret_cast<void*>((reinterpret_cast<uintptr_t>(ptr) + a - 1) & ~(a - 1));
-}
-
-VEKCORE_API unsigned long long vekGetEnabledCpuFeatures(void) {
+unsigned long long enabledFeatures() {
     const Cpuid l1 = cpuid(1, 0);
     const Cpuid l7 = cpuid(7, 0);
     unsigned long long m = 0;
@@ -68,8 +51,27 @@ VEKCORE_API unsigned long long vekGetEnabledCpuFeatures(void) {
     return m;
 }
 
+}  // namespace
+
+extern "C" {
+
+VEKCORE_API void* vekMalloc(size_t length) {
+    void* p = nullptr;
+    if (posix_memalign(&p, VEK_MALLOC_ALIGNMENT, length ? length : 1) != 0) return nullptr;
+    return p;
+}
+
+VEKCORE_API void vekFree(void* ptr) { free(ptr); }
+
+VEKCORE_API void* vekAlignPtr(void* ptr, int alignBytes) {
+    const uintptr_t a = static_cast<uintptr_t>(alignBytes);
+    return reinterpret_cast<void*>((reinterpret_cast<uintptr_t>(ptr) + a - 1) & ~(a - 1));
+}
+
+VEKCORE_API unsigned long long vekGetEnabledCpuFeatures(void) { return enabledFeatures(); }
+
 VEKCORE_API int ownGetFeature(unsigned long long featureMask) {
-    return (vekGetEnabledCpuFeatures() & featureMask) == featureMask ? 1 : 0;
+    return (enabledFeatures() & featureMask) == featureMask ? 1 : 0;
 }
 
 }  // extern "C"

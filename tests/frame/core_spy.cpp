@@ -39,3 +39,19 @@ extern "C" __attribute__((visibility("default"))) void vekFree(void* ptr) {
     CoreSpy::get().freed.push_back(ptr);
     realFree()(ptr);
 }
+
+extern "C" __attribute__((visibility("default"))) int ownGetFeature(unsigned long long mask) {
+    CoreSpy& s = CoreSpy::get();
+    s.featureMasks.push_back(mask);
+    if (s.featureAnswer >= 0) return s.featureAnswer;
+    using Fn = int (*)(unsigned long long);
+    static Fn real = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "ownGetFeature"));
+    return real(mask);
+}
+
+extern "C" __attribute__((visibility("default"))) unsigned long long vekGetEnabledCpuFeatures(void) {
+    ++CoreSpy::get().enabledFeatureCalls;
+    using Fn = unsigned long long (*)(void);
+    static Fn real = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "vekGetEnabledCpuFeatures"));
+    return real();
+}

@@ -34,6 +34,38 @@ TEST(Version, RecordMatchesFeatureAnswerAndIsStable) {
     EXPECT_TRUE(year >= 2000 && year <= 9999);
 }
 
+TEST(Version, FeatureMask0x80ChoosesThePlusRecord) {
+    CoreSpy& spy = CoreSpy::get();
+    spy.reset();
+    spy.featureAnswer = 0;
+    const VekLibraryVersion* plain = veksGetLibVersion();
+    EXPECT_EQ(plain, veksGetLibVersion());
+    spy.featureAnswer = 7;  // any non-zero answer
+    const VekLibraryVersion* plus = veksGetLibVersion();
+    ASSERT_EQ(spy.featureMasks.size(), 3u);
+    for (unsigned long long m : spy.featureMasks) EXPECT_EQ(m, 0x80ull);
+    ASSERT_NE(plain, plus);
+    const std::string a = plain->name, b = plus->name;
+    EXPECT_EQ(a + "+", b);
+    // The records differ in nothing else.
+    EXPECT_EQ(plain->major, plus->major);
+    EXPECT_EQ(plain->minor, plus->minor);
+    EXPECT_EQ(plain->update, plus->update);
+    EXPECT_EQ(plain->build, plus->build);
+    EXPECT_EQ(memcmp(plain->targetCode, plus->targetCode, 4), 0);
+    EXPECT_EQ(plain->version, plus->version);
+    EXPECT_EQ(plain->buildDate, plus->buildDate);
+    spy.reset();
+}
+
+TEST(Attach, ReadsTheFeatureMaskOnceAndNeverAgain) {
+    EXPECT_EQ(CoreSpy::get().enabledFeatureCalls, 1);
+    T32f* p = veksMalloc_32f(16);
+    veksFree(p);
+    (void)veksGetLibVersion();
+    EXPECT_EQ(CoreSpy::get().enabledFeatureCalls, 1);
+}
+
 struct MallocCase {
     const char* name;
     void* (*fn)(int);
