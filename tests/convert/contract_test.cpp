@@ -1,5 +1,5 @@
 // The failure contract of every (pSrc, pDst, len, ...) member of the
-// conversion family, generated from one table: null pointers first, then
+// conversion, byte-swapping and companding families, generated from one table: null pointers first, then
 // the length, then the rounding mode where it is checked; nothing written
 // on error.
 #include <functional>
@@ -52,6 +52,14 @@ const std::vector<Member>& members() {
         M(veksConvert_32u24u_Sfs, T32u, T24u, , 0),       M_MODE(veksConvert_64s32s_Sfs, T64s, T32s, , 0),
         M_HALF(veksConvert_16f16s_Sfs, T16f, T16s, , 0),  M_HALF(veksConvert_16s16f, T16s, T16f),
         M_HALF(veksConvert_32f16f, T32f, T16f),           M(veksConvert_16f32f, T16f, T32f),
+        M(veksSwapBytes_16u, T16u, T16u),                 M_INPLACE(veksSwapBytes_16u_I, T16u),
+        M(veksSwapBytes_24u, T24u, T24u),                 M_INPLACE(veksSwapBytes_24u_I, T24u),
+        M(veksSwapBytes_32u, T32u, T32u),                 M_INPLACE(veksSwapBytes_32u_I, T32u),
+        M(veksSwapBytes_64u, T64u, T64u),                 M_INPLACE(veksSwapBytes_64u_I, T64u),
+        M(veksLinToALaw_16s8u, T16s, T8u),                M(veksLinToALaw_32f8u, T32f, T8u),
+        M(veksALawToLin_8u16s, T8u, T16s),                M(veksALawToLin_8u32f, T8u, T32f),
+        M(veksLinToMuLaw_16s8u, T16s, T8u),               M(veksLinToMuLaw_32f8u, T32f, T8u),
+        M(veksMuLawToLin_8u16s, T8u, T16s),               M(veksMuLawToLin_8u32f, T8u, T32f),
     };
     return v;
 }
