@@ -19,7 +19,7 @@ using vtc::sweep;
 template <class TSrc>
 std::vector<TSrc> floatData(uint64_t seed, int64_t lo, int64_t hi, int sf) {
     vt::Rng rng(seed);
-    const long double span = ldexpl(static_cast<long double>(hi - lo), sf);
+    const long double span = ldexpl(static_cast<long double>(hi) - static_cast<long double>(lo), sf);
     std::vector<TSrc> v(kData);
     for (size_t i = 0; i < v.size(); ++i) {
         const long double u = rng.next<double>(-0.2, 1.2);
