@@ -15,15 +15,20 @@ namespace veks {
 class RoundingGuard {
 public:
     enum Mode : unsigned { Nearest = 0x0000, Down = 0x2000, Up = 0x4000, TowardZero = 0x6000 };
-    explicit RoundingGuard(Mode m) : saved_(_mm_getcsr()) {
-        _mm_setcsr((saved_ & ~0x6000u) | m);
+    // Writing the control register is slow, so a setting that is already
+    // in force is left alone (and then nothing needs restoring).
+    explicit RoundingGuard(Mode m) : saved_(_mm_getcsr()), changed_((saved_ & 0x6000u) != m) {
+        if (changed_) _mm_setcsr((saved_ & ~0x6000u) | m);
     }
-    ~RoundingGuard() { _mm_setcsr((_mm_getcsr() & ~0x6000u) | (saved_ & 0x6000u)); }
+    ~RoundingGuard() {
+        if (changed_) _mm_setcsr((_mm_getcsr() & ~0x6000u) | (saved_ & 0x6000u));
+    }
     RoundingGuard(const RoundingGuard&) = delete;
     RoundingGuard& operator=(const RoundingGuard&) = delete;
 
 private:
     unsigned saved_;
+    bool changed_;
 };
 
 // Round a double to an integral double by a rounding-mode argument
@@ -51,4 +56,18 @@ inline TDst roundSat(double x, int rndMode, int sf = 0) {
     return saturateIntegral<TDst>(roundByMode(sf ? ldexp(x, -sf) : x, rndMode));
 }
 
+// Float to integer as the conversions define it: x * 2^-sf, then a clamp
+// from above to hi that a NaN meets as the larger value (so NaN gives hi),
+// then rounding by the mode (roundByMode), then saturation from below to lo.
+// Independent of the processor's rounding setting.
+inline int64_t convertRound(double x, int rndMode, int sf, int64_t lo, int64_t hi) {
+    if (sf != 0) x = ldexp(x, sf > 2200 ? -2200 : sf < -2200 ? 2200 : -sf);
+    if (!(x < static_cast<double>(hi))) return hi;  // NaN, and hi itself
+    const double r = roundByMode(x, rndMode);
+    if (r >= static_cast<double>(hi)) return hi;
+    if (r <= static_cast<double>(lo)) return lo;
+    return static_cast<int64_t>(r);
+}
+
 }  // namespace veks
+
