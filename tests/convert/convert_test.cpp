@@ -1,10 +1,7 @@
-// Every (pSrc, pDst, len, ...) member of the conversion, byte-swapping and
-// companding families, from one table: against its reference model over
-// tail-crossing lengths, misaligned starts, in place where it has that form,
-// every rounding mode and a spread of scale factors, each call under one of
-// the four caller rounding settings (results must not depend on it, and it
-// must come back unchanged); outputs long enough for the streaming stores;
-// and the failure contract.
+// Every (pSrc, pDst, len, ...) member of the family from one table: against
+// its reference model (lengths crossing every tail, misaligned starts, in
+// place, each rounding mode and scale factor, under every caller rounding
+// setting), on outputs long enough to stream, and the failure contract.
 #include <limits.h>
 #include <xmmintrin.h>
 
@@ -19,38 +16,33 @@ constexpr size_t kData = 4099;
 template <class T>
 constexpr bool k24 = std::is_same<T, T24s>::value || std::is_same<T, T24u>::value;
 template <class T>
-T get(const void* p) {
-    T v;
-    memcpy(&v, p, sizeof v);
-    return v;
-}
+T get(const void* p) { T v; memcpy(&v, p, sizeof v); return v; }
 template <class T>
 void put(void* p, T v) { memcpy(p, &v, sizeof v); }
 
+// 24-bit elements as integers, and the ranges of the integer types.
 template <class T>
 long double valueOf(const T& v) {
-    if constexpr (k24<T>) {
+    if constexpr (!k24<T>) {
+        return static_cast<long double>(v);
+    } else {
         const int32_t w = v.b[0] | v.b[1] << 8 | v.b[2] << 16;
         return std::is_same<T, T24s>::value && (w & 0x800000) ? w - 0x1000000 : w;
-    } else {
-        return static_cast<long double>(v);
     }
 }
 template <class T>
-int64_t lo() {
-    if constexpr (k24<T>) return std::is_same<T, T24s>::value ? -(1 << 23) : 0;
-    else return std::numeric_limits<T>::min();
-}
-template <class T>
-int64_t hi() {
-    if constexpr (k24<T>) return std::is_same<T, T24s>::value ? (1 << 23) - 1 : (1 << 24) - 1;
-    else return static_cast<int64_t>(std::numeric_limits<T>::max());
-}
-template <class T>
 T fromInt(int64_t v) {
-    if constexpr (k24<T>) return T{{static_cast<unsigned char>(v), static_cast<unsigned char>(v >> 8), static_cast<unsigned char>(v >> 16)}};
-    else return static_cast<T>(v);
+    if constexpr (!k24<T>) return static_cast<T>(v);
+    else return T{{static_cast<unsigned char>(v), static_cast<unsigned char>(v >> 8), static_cast<unsigned char>(v >> 16)}};
 }
+template <class T>
+struct Lim {
+    static constexpr int64_t lo = std::numeric_limits<T>::min(), hi = static_cast<int64_t>(std::numeric_limits<T>::max());
+};
+template <>
+struct Lim<T24s> { static constexpr int64_t lo = -(1 << 23), hi = (1 << 23) - 1; };
+template <>
+struct Lim<T24u> { static constexpr int64_t lo = 0, hi = (1 << 24) - 1; };
 
 // Places edge values on lane boundaries near the start and across the end.
 template <class T>
@@ -64,23 +56,17 @@ template <class TS, class TD>
 Bytes gen(uint64_t seed, int sf) {
     vt::Rng rng(seed);
     std::vector<TS> v(sizeof(TS) <= 2 ? 65536 : kData);
+    for (size_t i = 0; i < v.size() * sizeof(TS); ++i) reinterpret_cast<unsigned char*>(v.data())[i] = rng.next<uint8_t>();
     if constexpr (!std::is_floating_point<TS>::value && sizeof(TS) <= 2) {
         for (size_t i = 0; i < v.size(); ++i) v[i] = static_cast<TS>(i * 40503 + seed);  // every pattern, mixed
     } else if constexpr (!std::is_floating_point<TS>::value) {
-        for (size_t i = 0; i < v.size(); ++i) {
-            for (size_t k = 0; k < sizeof(TS); ++k) reinterpret_cast<unsigned char*>(&v[i])[k] = rng.next<uint8_t>();
-            if (i % 3 == 0) v[i] = fromInt<TS>(rng.range(-300, 300));
-        }
-        sprinkle(v, {fromInt<TS>(lo<TS>()), fromInt<TS>(hi<TS>()), fromInt<TS>(lo<TS>() + 1), fromInt<TS>(hi<TS>() - 1),
+        for (size_t i = 0; i < v.size(); i += 3) v[i] = fromInt<TS>(rng.range(-300, 300));
+        sprinkle(v, {fromInt<TS>(Lim<TS>::lo), fromInt<TS>(Lim<TS>::hi), fromInt<TS>(Lim<TS>::lo + 1), fromInt<TS>(Lim<TS>::hi - 1),
                      fromInt<TS>(0), fromInt<TS>(1), fromInt<TS>(-1)});
     } else if constexpr (std::is_floating_point<TD>::value || std::is_same<TD, T16f>::value) {
         // Random patterns (every exponent, subnormals, NaNs), and ties between
         // neighbouring halves (or, from double, singles) with their neighbours.
-        for (size_t i = 0; i < v.size(); ++i) {
-            if (i % 2) {
-                for (size_t k = 0; k < sizeof(TS); ++k) reinterpret_cast<unsigned char*>(&v[i])[k] = rng.next<uint8_t>();
-                continue;
-            }
+        for (size_t i = 0; i < v.size(); i += 2) {
             const T16f h = static_cast<T16f>(rng.next<uint16_t>() & 0xFBFF);
             const float a = sizeof(TS) == 4 ? ref::halfToFloat(h) : rng.next<float>(-1e38, 1e38);
             const float b = sizeof(TS) == 4 ? ref::halfToFloat(static_cast<T16f>(h + 1)) : nextafterf(a, INFINITY);
@@ -97,7 +83,7 @@ Bytes gen(uint64_t seed, int sf) {
         // ties, integers and near zero; then TD's ends and their neighbours.
         const int s = sf > 1000 ? 1000 : sf < -1000 ? -1000 : sf;
         const int dsf = sizeof(TS) == 4 && (s > 100 || s < -100) ? 0 : s;
-        const long double l = static_cast<long double>(lo<TD>()), h = static_cast<long double>(hi<TD>());
+        const long double l = static_cast<long double>(Lim<TD>::lo), h = static_cast<long double>(Lim<TD>::hi);
         for (size_t i = 0; i < v.size(); ++i) {
             const long double x = l + rng.next<double>(-0.2, 1.2) * (h - l);
             const long double t[] = {x, floorl(x) + 0.5L, floorl(x), rng.next<double>(-3, 3)};
@@ -121,7 +107,7 @@ template <class TS, class TD>
 void model(const void* s, void* d, int mode, int sf) {
     const long double x = valueOf(get<TS>(s));
     if constexpr (std::is_floating_point<TD>::value) put(d, ref::toFloat<TD>(x, sf));
-    else put(d, fromInt<TD>(ref::floatToInt(x, mode, sf, lo<TD>(), hi<TD>())));
+    else put(d, fromInt<TD>(ref::floatToInt(x, mode, sf, Lim<TD>::lo, Lim<TD>::hi)));
 }
 template <size_t W>
 void swapModel(const void* s, void* d, int, int) {
@@ -129,18 +115,22 @@ void swapModel(const void* s, void* d, int, int) {
 }
 int16_t nearest16(float x) { return static_cast<int16_t>(ref::floatToInt(x, VEK_ROUND_NEAR, 0, -32768, 32767)); }
 
-enum : unsigned { kMode = 1, kSf = 2, kInPlace = 4, kHalf = 8, kCount = 16, kLong = 32 };
+template <class TS, class TD, int SF>
+Bytes genAt(uint64_t seed, int) { return gen<TS, TD>(seed, SF); }
+
+enum : unsigned { kMode = 1, kSf = 2, kInPlace = 4, kHalf = 8, kCount = 16, kLong = 32, kSrcLate = 64, kDstLate = 128 };
 // kHalf: only modes 0 and 1, others refused after the length. kCount: the
 // length is an unsigned count, only 0 is refused. kLong: also checked on an
-// output long enough for the streaming stores.
+// output long enough for the streaming stores. kSrcLate, kDstLate: that
+// pointer is checked after the length.
 
 struct Row {
     const char* name;
-    unsigned shape;
-    size_t ss, ds;
+    unsigned shape;  // which of mode and sf the member takes, or in place
+    size_t ss, ds;   // element sizes
     VekResult (*call)(const void*, void*, int n, int mode, int sf);
     Bytes (*gen)(uint64_t, int);
-    void (*model)(const void*, void*, int mode, int sf);
+    void (*model)(const void*, void*, int mode, int sf);  // one element
     std::vector<int> sfs;
     unsigned flags = 0;
 };
@@ -151,11 +141,17 @@ struct Row {
 #define SF(f, TS, TD) SHAPE(f, TS, TD, kSf, , sf)
 #define RND(f, TS, TD) SHAPE(f, TS, TD, kMode, , m)
 #define RND_SF(f, TS, TD) SHAPE(f, TS, TD, kMode | kSf, , m, sf)
+// One channel of a joining (splitting) member.
+#define JOIN(f, TD) #f, 0, sizeof(T32f), sizeof(TD), \
+    [](const void* s, void* d, int n, int, int) { const T32f* p = (const T32f*)s; return f(s ? &p : nullptr, 1, n, (TD*)d); }
+#define SPLIT(f, TS) #f, 0, sizeof(TS), sizeof(T32f), \
+    [](const void* s, void* d, int n, int, int) { T32f* p = (T32f*)d; return f((const TS*)s, d ? &p : nullptr, 1, n); }
 #define IN_PLACE(f, T) #f, kInPlace, sizeof(T), sizeof(T), [](const void*, void* d, int n, int, int) { return f((T*)d, n); }
 #define STD(TS, TD) gen<TS, TD>, model<TS, TD>
 // A member-specific model; its data is made as for a conversion from TS to TG.
-#define MODEL_G(TS, TG, TD, expr) gen<TS, TG>, [](const void* s, void* d, int m, int sf) { \
+#define MODEL_M(TS, TD, expr) [](const void* s, void* d, int m, int sf) { \
     (void)m; (void)sf; const TS x = get<TS>(s); put(d, static_cast<TD>(expr)); }
+#define MODEL_G(TS, TG, TD, expr) gen<TS, TG>, MODEL_M(TS, TD, expr)
 #define MODEL(TS, TD, expr) MODEL_G(TS, TD, TD, expr)
 
 const std::vector<Row>& rows() {
@@ -225,6 +221,12 @@ const std::vector<Row>& rows() {
         {PLAIN(veksLinToMuLaw_32f8u, T32f, T8u), MODEL_G(T32f, T16s, T8u, ref::muLawEncode(nearest16(x))), z},
         {PLAIN(veksMuLawToLin_8u16s, T8u, T16s), MODEL(T8u, T16s, ref::muLawDecode(x)), z},
         {PLAIN(veksMuLawToLin_8u32f, T8u, T32f), MODEL(T8u, T32f, ref::muLawDecode(x)), z},
+        // Joins take data across [-1, 1] and a little beyond.
+        {JOIN(veksJoinScaled_32f16s_D2L, T16s), genAt<T32f, T16s, -15>, MODEL_M(T32f, T16s, ref::joinScaled(x, 32767.5L)), z, kSrcLate},
+        {JOIN(veksJoinScaled_32f24s_D2L, T24s), genAt<T32f, T24s, -23>,
+         MODEL_M(T32f, T24s, fromInt<T24s>(ref::joinScaled(x, 8388607.5L))), z, kSrcLate},
+        {SPLIT(veksSplitScaled_16s32f_D2L, T16s), MODEL(T16s, T32f, ref::splitScaled16(x)), z, kDstLate},
+        {SPLIT(veksSplitScaled_24s32f_D2L, T24s), MODEL(T24s, T32f, ref::splitScaled24(static_cast<int>(valueOf(x)))), z, kDstLate},
     };
     return v;
 }
@@ -308,16 +310,13 @@ TEST(Convert, ChecksInOrderAndWritesNothingOnError) {
         for (size_t i = 0; i < src.size(); ++i) src[i] = static_cast<unsigned char>(i * 7 + 1);
         src.freeze();
         dst.freeze();
-        struct Case {
-            bool nullSrc, nullDst;
-            int len, mode;
-            VekResult want;
-        };
+        struct Case { bool nullSrc, nullDst; int len, mode; VekResult want; };
         std::vector<Case> cases = {{false, true, n, 0, VEK_ERR_NULL_POINTER},
-                                   {false, true, 0, 0, VEK_ERR_NULL_POINTER},
+                                   {false, true, 0, 0, r.flags & kDstLate ? VEK_ERR_SIZE : VEK_ERR_NULL_POINTER},
                                    {false, false, 0, 0, VEK_ERR_SIZE}};
         if (!(r.shape & kInPlace))
-            cases.insert(cases.end(), {{true, false, n, 0, VEK_ERR_NULL_POINTER}, {true, false, 0, 0, VEK_ERR_NULL_POINTER}});
+            cases.insert(cases.end(), {{true, false, n, 0, VEK_ERR_NULL_POINTER},
+                                       {true, false, 0, 0, r.flags & kSrcLate ? VEK_ERR_SIZE : VEK_ERR_NULL_POINTER}});
         if (!(r.flags & kCount))
             cases.insert(cases.end(), {{false, false, -1, 0, VEK_ERR_SIZE}, {false, false, INT_MIN, 0, VEK_ERR_SIZE}});
         if (r.flags & kHalf)

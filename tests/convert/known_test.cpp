@@ -11,9 +11,7 @@
 namespace {
 
 template <class T>
-struct Id {
-    using type = T;
-};
+struct Id { using type = T; };
 // One element through a member; the remaining arguments follow len.
 template <class TS, class TD, class... A, class... B>
 TD one(VekResult (*f)(const TS*, TD*, int, A...), typename Id<TS>::type x, B... b) {
@@ -23,11 +21,7 @@ TD one(VekResult (*f)(const TS*, TD*, int, A...), typename Id<TS>::type x, B... 
 }
 
 TEST(ConvertKnown, TiesNaNRangeEndsAndHalves) {
-    const struct {
-        float x;
-        int sf;
-        T16s want[3];  // toward zero, nearest even, ties away
-    } rows[] = {
+    const struct { float x; int sf; T16s want[3]; } rows[] = {  // toward zero, nearest even, ties away
         {2.5f, 0, {2, 2, 3}},       {-2.5f, 0, {-2, -2, -3}},    {3.5f, 0, {3, 4, 4}},
         {5.0f, 1, {2, 2, 3}},       {-7.0f, 1, {-3, -4, -4}},    {0.49999997f, 0, {0, 0, 0}},  // not 0.5 + x
         {NAN, 0, {32767, 32767, 32767}}, {-NAN, 0, {32767, 32767, 32767}}, {-INFINITY, 0, {-32768, -32768, -32768}},
@@ -46,21 +40,14 @@ TEST(ConvertKnown, TiesNaNRangeEndsAndHalves) {
     EXPECT_EQ(one(veksConvert_64s64f, (1LL << 53) + 1), 9007199254740992.0);
     EXPECT_EQ(one(veksConvert_64s64f, INT64_MAX), 9223372036854775808.0);
     // Halves: 65520 is the tie above the largest finite half; 2^-25 ties to 0.
-    const struct {
-        float x;
-        int mode;
-        T16f want;
-    } halves[] = {{1.0f, 1, 0x3C00}, {-2.0f, 0, 0xC000}, {65504.0f, 1, 0x7BFF}, {65520.0f, 1, 0x7C00}, {65520.0f, 0, 0x7BFF},
+    const struct { float x; int mode; T16f want; } halves[] = {{1.0f, 1, 0x3C00}, {-2.0f, 0, 0xC000}, {65504.0f, 1, 0x7BFF}, {65520.0f, 1, 0x7C00}, {65520.0f, 0, 0x7BFF},
                   {1e6f, 0, 0x7BFF}, {-1e6f, 1, 0xFC00}, {-0.0f, 1, 0x8000}, {5.9604645e-8f, 1, 0x0001},
                   {2.9802322e-8f, 1, 0x0000}, {8.940697e-8f, 1, 0x0002}, {6.1035156e-5f, 1, 0x0400}, {1.0009766f, 1, 0x3C01}};
     for (const auto& h : halves) EXPECT_EQ(one(veksConvert_32f16f, h.x, h.mode), h.want) << h.x << " mode " << h.mode;
 }
 
 TEST(ConvertKnown, CompandingCodesRoundTripsAndOrder) {
-    const struct {
-        T16s x;
-        T8u a, mu;
-    } rows[] = {{0, 0xD5, 0xFF}, {-1, 0x55, 0x7F}, {32767, 0xAA, 0x80}, {-32768, 0x2A, 0x00}};
+    const struct { T16s x; T8u a, mu; } rows[] = {{0, 0xD5, 0xFF}, {-1, 0x55, 0x7F}, {32767, 0xAA, 0x80}, {-32768, 0x2A, 0x00}};
     for (const auto& r : rows) {
         EXPECT_EQ(one(veksLinToALaw_16s8u, r.x), r.a) << r.x;
         EXPECT_EQ(one(veksLinToMuLaw_16s8u, r.x), r.mu) << r.x;
@@ -71,10 +58,7 @@ TEST(ConvertKnown, CompandingCodesRoundTripsAndOrder) {
     EXPECT_EQ(one(veksALawToLin_8u16s, 0xAA), 32256);
     EXPECT_EQ(one(veksMuLawToLin_8u16s, 0x80), 32124);
     EXPECT_EQ(one(veksMuLawToLin_8u16s, 0xFF), 0);
-    struct Law {
-        VekResult (*enc)(const T16s*, T8u*, int);
-        VekResult (*dec)(const T8u*, T16s*, int);
-    };
+    struct Law { VekResult (*enc)(const T16s*, T8u*, int); VekResult (*dec)(const T8u*, T16s*, int); };
     for (const Law& law : {Law{veksLinToALaw_16s8u, veksALawToLin_8u16s}, Law{veksLinToMuLaw_16s8u, veksMuLawToLin_8u16s}}) {
         // Every code decodes to a value that encodes back to it (mu-law's -0
         // decodes to 0, which encodes as +0).
@@ -121,17 +105,15 @@ TEST(PackBits, MatchesTheModelAndKeepsTheRest) {
     ASSERT_EQ(veksPackBits_32u8u(s, b, 2, d, 2, &n), VEK_OK);
     EXPECT_EQ(n, 11);
     EXPECT_TRUE(d[0] == 0xE8 && d[1] == 0x7F && d[2] == 0xFF);  // 11 101 000, 0111 1111
-    // Pointers (source, widths, destination, count), then length, then offset.
+    // Pointers (nulls: bit 0 source, 1 widths, 2 destination, 3 count), then
+    // the length, then the offset.
     vt::Guarded<T8u> g(4);
     g.freeze();
     n = 12345;
-    const struct {
-        int nulls;  // bit 0 source, 1 widths, 2 destination, 3 count
-        int len, offset;
-        VekResult want;
-    } rows[] = {{1, 2, 0, VEK_ERR_NULL_POINTER}, {2, 2, 0, VEK_ERR_NULL_POINTER}, {4, 2, 0, VEK_ERR_NULL_POINTER},
-                {8, 2, 0, VEK_ERR_NULL_POINTER}, {8, 0, -1, VEK_ERR_NULL_POINTER}, {0, 0, 0, VEK_ERR_SIZE},
-                {0, -4, 0, VEK_ERR_SIZE},        {0, 2, -1, VEK_ERR_SIZE}};
+    const struct { int nulls, len, offset; VekResult want; } rows[] = {
+        {1, 2, 0, VEK_ERR_NULL_POINTER}, {2, 2, 0, VEK_ERR_NULL_POINTER}, {4, 2, 0, VEK_ERR_NULL_POINTER},
+        {8, 2, 0, VEK_ERR_NULL_POINTER}, {8, 0, -1, VEK_ERR_NULL_POINTER}, {0, 0, 0, VEK_ERR_SIZE},
+        {0, -4, 0, VEK_ERR_SIZE},        {0, 2, -1, VEK_ERR_SIZE}};
     for (const auto& r : rows) {
         EXPECT_EQ(veksPackBits_32u8u(r.nulls & 1 ? nullptr : s, r.nulls & 2 ? nullptr : b, r.len, r.nulls & 4 ? nullptr : g.data(),
                                      r.offset, r.nulls & 8 ? nullptr : &n),
@@ -140,64 +122,45 @@ TEST(PackBits, MatchesTheModelAndKeepsTheRest) {
     }
 }
 
-int32_t w24(const T24s& v) { return static_cast<int32_t>(static_cast<uint32_t>(v.b[0] | v.b[1] << 8 | v.b[2] << 16) << 8) >> 8; }
-
-// Split every 16-bit value (and 24-bit values with the ends) into channels,
-// join the channels back, and check the joins of arbitrary floats.
-TEST(JoinSplit, MatchTheModelsInterleaveAndRoundTrip) {
-    vt::Rng rng(9);
-    for (int nCh : {1, 2, 3, 8}) {
+// Every 16-bit value split into several channels and joined back.
+TEST(JoinSplit, InterleaveAndRoundTrip) {
+    for (int nCh : {2, 3, 8}) {
         const int chanLen = 65536 / nCh;
         const size_t n = static_cast<size_t>(nCh * chanLen);
-        std::vector<T16s> s16(n);
-        std::vector<T24s> s24(n);
-        for (size_t i = 0; i < n; ++i) {
-            s16[i] = static_cast<T16s>(i * 40503);
-            const int32_t v = i == 0 ? -(1 << 23) : i == 1 ? (1 << 23) - 1 : static_cast<int32_t>(rng.range(-(1 << 23), (1 << 23) - 1));
-            s24[i] = T24s{{static_cast<unsigned char>(v), static_cast<unsigned char>(v >> 8), static_cast<unsigned char>(v >> 16)}};
-        }
-        std::vector<vt::Guarded<T32f>> c16, c24;
-        std::vector<T32f*> p16, p24;
-        c16.reserve(nCh), c24.reserve(nCh);  // the buffers must not move
-        for (int c = 0; c < nCh; ++c) c16.emplace_back(chanLen, c % 2), c24.emplace_back(chanLen, c % 3);
-        for (int c = 0; c < nCh; ++c) p16.push_back(c16[c].data()), p24.push_back(c24[c].data());
-        ASSERT_EQ(veksSplitScaled_16s32f_D2L(s16.data(), p16.data(), nCh, chanLen), VEK_OK);
-        ASSERT_EQ(veksSplitScaled_24s32f_D2L(s24.data(), p24.data(), nCh, chanLen), VEK_OK);
-        for (size_t i = 0; i < n; ++i) {
-            ASSERT_EQ(c16[i % nCh][i / nCh], ref::splitScaled16(s16[i])) << s16[i];
-            ASSERT_EQ(c24[i % nCh][i / nCh], ref::splitScaled24(w24(s24[i]))) << w24(s24[i]);
-        }
-        for (int c = 0; c < nCh; ++c) ASSERT_TRUE(c16[c].intact() && c24[c].intact());
-        const std::vector<const T32f*> q16(p16.begin(), p16.end()), q24(p24.begin(), p24.end());
-        vt::Guarded<T16s> b16(n, 1);
-        vt::Guarded<T24s> b24(n, 3);
-        ASSERT_EQ(veksJoinScaled_32f16s_D2L(q16.data(), nCh, chanLen, b16.data()), VEK_OK);
-        ASSERT_EQ(veksJoinScaled_32f24s_D2L(q24.data(), nCh, chanLen, b24.data()), VEK_OK);
-        EXPECT_TRUE(vt::sameElements(b16.data(), s16.data(), n));
-        for (size_t i = 0; i < n; ++i) ASSERT_EQ(w24(b24[i]), w24(s24[i])) << i;
-        // Arbitrary floats, beyond the range, between and on the steps.
-        for (int c = 0; c < nCh; ++c)
-            for (int i = 0; i < chanLen; ++i)
-                p16[c][i] = i % 5 ? rng.next<float>(-1.3, 1.3) : static_cast<float>(rng.range(-32768, 32767) + 0.5) / 32767.5f;
-        const float odd[] = {NAN, -INFINITY, -0.0f, -1e-30f, 1e-30f, -1.0f, 1.0f};  // tiny negatives give -1
-        std::copy(std::begin(odd), std::end(odd), p16[0]);
-        ASSERT_EQ(veksJoinScaled_32f16s_D2L(q16.data(), nCh, chanLen, b16.data()), VEK_OK);
-        ASSERT_EQ(veksJoinScaled_32f24s_D2L(q16.data(), nCh, chanLen, b24.data()), VEK_OK);
-        for (size_t i = 0; i < n; ++i) {
-            const float v = p16[i % nCh][i / nCh];
-            ASSERT_EQ(b16[i], ref::joinScaled(v, 32767.5L)) << v;
-            ASSERT_EQ(w24(b24[i]), ref::joinScaled(v, 8388607.5L)) << v;
-        }
-        EXPECT_TRUE(b16.intact() && b24.intact());
+        std::vector<T16s> s(n);
+        for (size_t i = 0; i < n; ++i) s[i] = static_cast<T16s>(i * 40503);
+        std::vector<vt::Guarded<T32f>> ch;
+        ch.reserve(nCh);  // the buffers must not move
+        std::vector<T32f*> p;
+        for (int c = 0; c < nCh; ++c) p.push_back(ch.emplace_back(chanLen, c % 3).data());
+        ASSERT_EQ(veksSplitScaled_16s32f_D2L(s.data(), p.data(), nCh, chanLen), VEK_OK);
+        for (size_t i = 0; i < n; ++i) ASSERT_EQ(ch[i % nCh][i / nCh], ref::splitScaled16(s[i])) << s[i];
+        for (int c = 0; c < nCh; ++c) ASSERT_TRUE(ch[c].intact());
+        const std::vector<const T32f*> q(p.begin(), p.end());
+        vt::Guarded<T16s> back(n, 1);
+        ASSERT_EQ(veksJoinScaled_32f16s_D2L(q.data(), nCh, chanLen, back.data()), VEK_OK);
+        EXPECT_TRUE(vt::sameElements(back.data(), s.data(), n) && back.intact());
     }
-    EXPECT_EQ(ref::splitScaled16(0), 1.0f / 65535.0f);  // the model's own anchors: 0 is not mapped to 0
-    EXPECT_TRUE(ref::splitScaled16(-32768) == -1.0f && ref::splitScaled16(32767) == 1.0f && ref::splitScaled24(-(1 << 23)) == -1.0f);
-    EXPECT_TRUE(ref::joinScaled(NAN, 32767.5L) == 32767 && ref::joinScaled(-1e-30f, 32767.5L) == -1 && ref::joinScaled(-0.0f, 32767.5L) == 0);
+    // The odd cases: the ends, 0 not mapped to 0, NaN to the top, tiny
+    // negatives (not -0) to -1.
+    const T16s ends[] = {-32768, 32767, 0};
+    const T24s ends24[] = {{{0, 0, 0x80}}, {{0xFF, 0xFF, 0x7F}}};
+    T32f f[5] = {};
+    T32f* pf[2] = {f, f + 3};
+    ASSERT_EQ(veksSplitScaled_16s32f_D2L(ends, pf, 1, 3), VEK_OK);
+    ASSERT_EQ(veksSplitScaled_24s32f_D2L(ends24, pf + 1, 1, 2), VEK_OK);
+    EXPECT_TRUE(f[0] == -1.0f && f[1] == 1.0f && f[2] == 1.0f / 65535.0f && f[3] == -1.0f && f[4] == 1.0f);
+    const T32f odd[] = {NAN, -INFINITY, -0.0f, -1e-30f, 1e-30f, 2.0f, -1.0f};
+    const T16s wantOdd[] = {32767, -32768, 0, -1, 0, 32767, -32768};
+    const T32f* po[1] = {odd};
+    T16s got[7];
+    ASSERT_EQ(veksJoinScaled_32f16s_D2L(po, 1, 7, got), VEK_OK);
+    EXPECT_TRUE(vt::sameElements(got, wantOdd, 7));
 }
 
-// Join checks pDst, then the sizes, then pSrc, then each channel; split
-// checks pSrc, the sizes, pDst, then each channel. Nothing is written.
-TEST(JoinSplit, ChecksInTheirOrderAndWriteNothing) {
+// Beyond the one-channel contract of the member table: the channel count
+// is checked before the array of channels, and each channel pointer last.
+TEST(JoinSplit, ChecksChannelsAndWritesNothing) {
     const T32f a[4] = {0.1f, 0.2f, 0.3f, 0.4f};
     const T32f* src[2] = {a, nullptr};
     vt::Guarded<T16s> d(8);
@@ -206,26 +169,12 @@ TEST(JoinSplit, ChecksInTheirOrderAndWriteNothing) {
     c0.freeze();
     T32f* dst[2] = {c0.data(), nullptr};
     const T16s s16[8] = {1, 2, 3, 4, 5, 6, 7, 8};
-    T24s* d24 = reinterpret_cast<T24s*>(d.data());
-    const T24s* s24 = reinterpret_cast<const T24s*>(s16);
-    const struct {
-        VekResult got, want;
-    } rows[] = {
-        {veksJoinScaled_32f16s_D2L(nullptr, 0, 0, nullptr), VEK_ERR_NULL_POINTER},
-        {veksJoinScaled_32f16s_D2L(nullptr, 0, 4, d.data()), VEK_ERR_SIZE},
-        {veksJoinScaled_32f24s_D2L(nullptr, 2, 0, d24), VEK_ERR_SIZE},
-        {veksJoinScaled_32f16s_D2L(nullptr, 2, 4, d.data()), VEK_ERR_NULL_POINTER},
-        {veksJoinScaled_32f16s_D2L(src, 2, 4, d.data()), VEK_ERR_NULL_POINTER},
-        {veksJoinScaled_32f24s_D2L(src, 2, 4, d24), VEK_ERR_NULL_POINTER},
-        {veksJoinScaled_32f24s_D2L(src, -1, 4, nullptr), VEK_ERR_NULL_POINTER},
-        {veksSplitScaled_16s32f_D2L(nullptr, nullptr, 0, 0), VEK_ERR_NULL_POINTER},
-        {veksSplitScaled_16s32f_D2L(s16, nullptr, 0, 4), VEK_ERR_SIZE},
-        {veksSplitScaled_24s32f_D2L(s24, nullptr, 2, -3), VEK_ERR_SIZE},
-        {veksSplitScaled_16s32f_D2L(s16, nullptr, 2, 4), VEK_ERR_NULL_POINTER},
-        {veksSplitScaled_16s32f_D2L(s16, dst, 2, 4), VEK_ERR_NULL_POINTER},
-        {veksSplitScaled_24s32f_D2L(s24, dst, 2, 4), VEK_ERR_NULL_POINTER},
-    };
-    for (size_t i = 0; i < sizeof rows / sizeof rows[0]; ++i) EXPECT_EQ(rows[i].got, rows[i].want) << "row " << i;
+    EXPECT_EQ(veksJoinScaled_32f16s_D2L(nullptr, 0, 4, d.data()), VEK_ERR_SIZE);
+    EXPECT_EQ(veksJoinScaled_32f16s_D2L(src, 2, 4, d.data()), VEK_ERR_NULL_POINTER);
+    EXPECT_EQ(veksJoinScaled_32f24s_D2L(src, 2, 4, reinterpret_cast<T24s*>(d.data())), VEK_ERR_NULL_POINTER);
+    EXPECT_EQ(veksSplitScaled_16s32f_D2L(s16, nullptr, 0, 4), VEK_ERR_SIZE);
+    EXPECT_EQ(veksSplitScaled_16s32f_D2L(s16, dst, 2, 4), VEK_ERR_NULL_POINTER);
+    EXPECT_EQ(veksSplitScaled_24s32f_D2L(reinterpret_cast<const T24s*>(s16), dst, 2, 4), VEK_ERR_NULL_POINTER);
     EXPECT_TRUE(d.intact() && c0.intact());
 }
 
