@@ -23,12 +23,8 @@ void put(void* p, T v) { memcpy(p, &v, sizeof v); }
 // 24-bit elements as integers, and the ranges of the integer types.
 template <class T>
 long double valueOf(const T& v) {
-    if constexpr (!k24<T>) {
-        return static_cast<long double>(v);
-    } else {
-        const int32_t w = v.b[0] | v.b[1] << 8 | v.b[2] << 16;
-        return std::is_same<T, T24s>::value && (w & 0x800000) ? w - 0x1000000 : w;
-    }
+    if constexpr (!k24<T>) return static_cast<long double>(v);
+    else return (v.b[0] | v.b[1] << 8 | v.b[2] << 16) - (std::is_same<T, T24s>::value && (v.b[2] & 0x80) ? 1 << 24 : 0);
 }
 template <class T>
 T fromInt(int64_t v) {
@@ -92,9 +88,8 @@ Bytes gen(uint64_t seed, int sf) {
         std::vector<TS> e = vt::edgeValues<TS>();
         for (long double b : {l, h}) {
             const TS x = static_cast<TS>(ldexpl(b, dsf));
-            for (TS y : {x, nextafter(x, TS(0)), nextafter(x, x > 0 ? TS(INFINITY) : TS(-INFINITY)),
-                         static_cast<TS>(ldexpl(b + (b > 0 ? 0.5L : -0.5L), dsf))})
-                e.push_back(y);
+            e.insert(e.end(), {x, nextafter(x, TS(0)), nextafter(x, x > 0 ? TS(INFINITY) : TS(-INFINITY)),
+                               static_cast<TS>(ldexpl(b + (b > 0 ? 0.5L : -0.5L), dsf))});
         }
         for (long double x : {-0.5L, ldexpl(-0.5L, dsf), ldexpl(0.49999997L, dsf)}) e.push_back(static_cast<TS>(x));
         sprinkle(v, e);

@@ -29,16 +29,6 @@ TEST(ConvertKnown, TiesNaNRangeEndsAndHalves) {
     };
     for (const auto& r : rows)
         for (int mode = 0; mode < 3; ++mode) EXPECT_EQ(one(veksConvert_32f16s_Sfs, r.x, mode, r.sf), r.want[mode]) << r.x << " mode " << mode;
-    // 2^31 rounds to no 32-bit value: it and NaN give the maximum.
-    EXPECT_EQ(one(veksConvert_32f32s_Sfs, 2147483648.0f, 1, 0), INT32_MAX);
-    EXPECT_EQ(one(veksConvert_32f32s_Sfs, NAN, 0, 0), INT32_MAX);
-    EXPECT_EQ(one(veksConvert_32f32s_Sfs, -3e9f, 2, 0), INT32_MIN);
-    EXPECT_EQ(one(veksConvert_32f32s_Sfs, 2147483520.0f, 0, 0), 2147483520);
-    // Integers round once to nearest even: 2^24 + 1 and 2^53 + 1 are ties.
-    EXPECT_EQ(one(veksConvert_32s32f, 16777217), 16777216.0f);
-    EXPECT_EQ(one(veksConvert_32s32f, 16777219), 16777220.0f);
-    EXPECT_EQ(one(veksConvert_64s64f, (1LL << 53) + 1), 9007199254740992.0);
-    EXPECT_EQ(one(veksConvert_64s64f, INT64_MAX), 9223372036854775808.0);
     // Halves: 65520 is the tie above the largest finite half; 2^-25 ties to 0.
     const struct { float x; int mode; T16f want; } halves[] = {{1.0f, 1, 0x3C00}, {-2.0f, 0, 0xC000}, {65504.0f, 1, 0x7BFF}, {65520.0f, 1, 0x7C00}, {65520.0f, 0, 0x7BFF},
                   {1e6f, 0, 0x7BFF}, {-1e6f, 1, 0xFC00}, {-0.0f, 1, 0x8000}, {5.9604645e-8f, 1, 0x0001},

@@ -32,17 +32,13 @@ inline int64_t clampInt(long double v, int64_t lo, int64_t hi) {
 
 inline int clampSf(int sf) { return sf > 20000 ? 20000 : sf < -20000 ? -20000 : sf; }
 
-// Floating x to an integer in [lo, hi]: NaN gives hi.
+// Floating x (or an integer, exact in long double) times 2^-sf to an
+// integer in [lo, hi] by mode: NaN gives hi.
 inline int64_t floatToInt(long double x, int mode, int sf, int64_t lo, int64_t hi) {
     if (x != x) return hi;
     const long double v = ldexpl(x, -clampSf(sf));
     if (isinf(v)) return v > 0 ? hi : lo;
     return clampInt(roundMode(v, mode), lo, hi);
-}
-
-// Integer s scaled by 2^-sf, rounded by mode, saturated to [lo, hi].
-inline int64_t scaleInt(int64_t s, int mode, int sf, int64_t lo, int64_t hi) {
-    return floatToInt(static_cast<long double>(s), mode, sf, lo, hi);
 }
 
 // Integer (or exact value) times 2^-sf, rounded once to T.
