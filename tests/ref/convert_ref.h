@@ -32,17 +32,13 @@ inline int64_t clampInt(long double v, int64_t lo, int64_t hi) {
 
 inline int clampSf(int sf) { return sf > 20000 ? 20000 : sf < -20000 ? -20000 : sf; }
 
-// Floating x to an integer in [lo, hi]: NaN gives hi.
+// Floating x (or an integer, exact in long double) times 2^-sf to an
+// integer in [lo, hi] by mode: NaN gives hi.
 inline int64_t floatToInt(long double x, int mode, int sf, int64_t lo, int64_t hi) {
     if (x != x) return hi;
     const long double v = ldexpl(x, -clampSf(sf));
     if (isinf(v)) return v > 0 ? hi : lo;
     return clampInt(roundMode(v, mode), lo, hi);
-}
-
-// Integer s scaled by 2^-sf, rounded by mode, saturated to [lo, hi].
-inline int64_t scaleInt(int64_t s, int mode, int sf, int64_t lo, int64_t hi) {
-    return floatToInt(static_cast<long double>(s), mode, sf, lo, hi);
 }
 
 // Integer (or exact value) times 2^-sf, rounded once to T.
@@ -162,5 +158,21 @@ inline int packBits(const uint32_t* src, const int* bits, int n, uint8_t* dst, i
     }
     return static_cast<int>(pos - offset);
 }
+
+// ---- channel joining and splitting -----------------------------------------
+
+// Join: v clamped to [-1, 1] (NaN to 1), then v * halfSpan - 0.5 rounded to
+// nearest even. The subtraction is exact in long double for |v| >= 2^-30;
+// below that -0.5 plus a tiny product rounds to -1 if it is negative, else 0.
+inline int32_t joinScaled(float v, long double halfSpan) {
+    const long double c = v != v ? 1.0L : v > 1 ? 1.0L : v < -1 ? -1.0L : v;
+    if (fabsl(c) < 0x1p-30L) return c < 0 ? -1 : 0;
+    return static_cast<int32_t>(roundMode(c * halfSpan - 0.5L, 1));
+}
+
+// Split: (2x + 1) / (2^B - 1); 16 bits in single precision as x * a + b with
+// single-precision constants, 24 bits in double, rounded once to single.
+inline float splitScaled16(int x) { return static_cast<float>(x) * 3.051804378628731e-05f + 1.5259021893143654e-05f; }
+inline float splitScaled24(int x) { return static_cast<float>((2.0 * x + 1.0) / 16777215.0); }
 
 }  // namespace ref
