@@ -260,6 +260,53 @@ VEKS_API void veksFree(void* ptr);
 
 /* ---- set, zero, copy, move ---------------------------------------------- */
 /* (section: init) */
+VEKS_API VekResult veksCopyBE_1u(const T8u* pSrc, int srcBitOffset, T8u* pDst, int dstBitOffset, int len);
+VEKS_API VekResult veksCopyLE_1u(const T8u* pSrc, int srcBitOffset, T8u* pDst, int dstBitOffset, int len);
+VEKS_API VekResult veksCopy_16s(const T16s* pSrc, T16s* pDst, int len);
+VEKS_API VekResult veksCopy_16sc(const T16sc* pSrc, T16sc* pDst, int len);
+VEKS_API VekResult veksCopy_1u(const T8u* pSrc, int srcBitOffset, T8u* pDst, int dstBitOffset, int len);
+VEKS_API VekResult veksCopy_32f(const T32f* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksCopy_32fc(const T32fc* pSrc, T32fc* pDst, int len);
+VEKS_API VekResult veksCopy_32s(const T32s* pSrc, T32s* pDst, int len);
+VEKS_API VekResult veksCopy_32sc(const T32sc* pSrc, T32sc* pDst, int len);
+VEKS_API VekResult veksCopy_64f(const T64f* pSrc, T64f* pDst, int len);
+VEKS_API VekResult veksCopy_64fc(const T64fc* pSrc, T64fc* pDst, int len);
+VEKS_API VekResult veksCopy_64s(const T64s* pSrc, T64s* pDst, int len);
+VEKS_API VekResult veksCopy_64sc(const T64sc* pSrc, T64sc* pDst, int len);
+VEKS_API VekResult veksCopy_8u(const T8u* pSrc, T8u* pDst, int len);
+VEKS_API VekResult veksMove_16s(const T16s* pSrc, T16s* pDst, int len);
+VEKS_API VekResult veksMove_16sc(const T16sc* pSrc, T16sc* pDst, int len);
+VEKS_API VekResult veksMove_32f(const T32f* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksMove_32fc(const T32fc* pSrc, T32fc* pDst, int len);
+VEKS_API VekResult veksMove_32s(const T32s* pSrc, T32s* pDst, int len);
+VEKS_API VekResult veksMove_32sc(const T32sc* pSrc, T32sc* pDst, int len);
+VEKS_API VekResult veksMove_64f(const T64f* pSrc, T64f* pDst, int len);
+VEKS_API VekResult veksMove_64fc(const T64fc* pSrc, T64fc* pDst, int len);
+VEKS_API VekResult veksMove_64s(const T64s* pSrc, T64s* pDst, int len);
+VEKS_API VekResult veksMove_64sc(const T64sc* pSrc, T64sc* pDst, int len);
+VEKS_API VekResult veksMove_8u(const T8u* pSrc, T8u* pDst, int len);
+VEKS_API VekResult veksSet_16s(T16s val, T16s* pDst, int len);
+VEKS_API VekResult veksSet_16sc(T16sc val, T16sc* pDst, int len);
+VEKS_API VekResult veksSet_32f(T32f val, T32f* pDst, int len);
+VEKS_API VekResult veksSet_32fc(T32fc val, T32fc* pDst, int len);
+VEKS_API VekResult veksSet_32s(T32s val, T32s* pDst, int len);
+VEKS_API VekResult veksSet_32sc(T32sc val, T32sc* pDst, int len);
+VEKS_API VekResult veksSet_64f(T64f val, T64f* pDst, int len);
+VEKS_API VekResult veksSet_64fc(T64fc val, T64fc* pDst, int len);
+VEKS_API VekResult veksSet_64s(T64s val, T64s* pDst, int len);
+VEKS_API VekResult veksSet_64sc(T64sc val, T64sc* pDst, int len);
+VEKS_API VekResult veksSet_8u(T8u val, T8u* pDst, int len);
+VEKS_API VekResult veksZero_16s(T16s* pDst, int len);
+VEKS_API VekResult veksZero_16sc(T16sc* pDst, int len);
+VEKS_API VekResult veksZero_32f(T32f* pDst, int len);
+VEKS_API VekResult veksZero_32fc(T32fc* pDst, int len);
+VEKS_API VekResult veksZero_32s(T32s* pDst, int len);
+VEKS_API VekResult veksZero_32sc(T32sc* pDst, int len);
+VEKS_API VekResult veksZero_64f(T64f* pDst, int len);
+VEKS_API VekResult veksZero_64fc(T64fc* pDst, int len);
+VEKS_API VekResult veksZero_64s(T64s* pDst, int len);
+VEKS_API VekResult veksZero_64sc(T64sc* pDst, int len);
+VEKS_API VekResult veksZero_8u(T8u* pDst, int len);
 
 /* ---- type conversion ---------------------------------------------------- */
 /* (section: convert) */
