@@ -89,6 +89,16 @@ void magnitude32f(const Src& src, T32f* pDst, size_t n) {
 template <class Src>
 void phase32f(const Src& src, T32f* pDst, size_t n) {
     size_t i = 0;
+    // Two independent groups per step: the chain of one group is long, and
+    // the second one fills its latency.
+    for (; i + 8 <= n; i += 8) {
+        __m128 re0, im0, re1, im1;
+        src.load4(i, &re0, &im0);
+        src.load4(i + 4, &re1, &im1);
+        const __m128 a0 = atan2v(im0, re0), a1 = atan2v(im1, re1);
+        _mm_storeu_ps(pDst + i, a0);
+        _mm_storeu_ps(pDst + i + 4, a1);
+    }
     for (; i + 4 <= n; i += 4) {
         __m128 re, im;
         src.load4(i, &re, &im);
@@ -100,29 +110,45 @@ void phase32f(const Src& src, T32f* pDst, size_t n) {
 // ---- polar to Cartesian: magn * cos(phase), magn * sin(phase) -------------
 
 template <class Dst>
-void polarToCart32f(const T32f* pMagn, const T32f* pPhase, const Dst& dst, size_t n) {
-    size_t i = 0;
-    for (; i + 4 <= n; i += 4) {
-        const __m128 ph = _mm_loadu_ps(pPhase + i);
-        const __m128 mg = _mm_loadu_ps(pMagn + i);
-        if (sinCosOutOfRange(ph)) {
-            // Lanes far from zero (or not finite) take the scalar path whole.
-            float s[4], c[4], m[4];
-            _mm_storeu_ps(m, mg);
-            for (size_t j = 0; j < 4; ++j) sincoss(pPhase[i + j], &s[j], &c[j]);
-            for (size_t j = 0; j < 4; ++j) dst.store(i + j, m[j] * c[j], m[j] * s[j]);
-            continue;
-        }
-        __m128 s, c;
-        sincosv(ph, &s, &c);
-        dst.store4(i, _mm_mul_ps(mg, c), _mm_mul_ps(mg, s));
-    }
-    for (; i < n; ++i) {
+void polarToCart32fScalar(const T32f* pMagn, const T32f* pPhase, const Dst& dst, size_t from, size_t to) {
+    for (size_t i = from; i < to; ++i) {
         float s, c;
         sincoss(pPhase[i], &s, &c);
         const float m = pMagn[i];
         dst.store(i, m * c, m * s);
     }
+}
+
+template <class Dst>
+void polarToCart32f(const T32f* pMagn, const T32f* pPhase, const Dst& dst, size_t n) {
+    size_t i = 0;
+    // Two independent groups per step, as in phase32f. Groups with a lane
+    // far from zero (or not finite) take the scalar path whole.
+    for (; i + 8 <= n; i += 8) {
+        const __m128 ph0 = _mm_loadu_ps(pPhase + i), ph1 = _mm_loadu_ps(pPhase + i + 4);
+        if (sinCosOutOfRange(ph0) | sinCosOutOfRange(ph1)) {
+            polarToCart32fScalar(pMagn, pPhase, dst, i, i + 8);
+            continue;
+        }
+        const __m128 mg0 = _mm_loadu_ps(pMagn + i), mg1 = _mm_loadu_ps(pMagn + i + 4);
+        __m128 s0, c0, s1, c1;
+        sincosv(ph0, &s0, &c0);
+        sincosv(ph1, &s1, &c1);
+        dst.store4(i, _mm_mul_ps(mg0, c0), _mm_mul_ps(mg0, s0));
+        dst.store4(i + 4, _mm_mul_ps(mg1, c1), _mm_mul_ps(mg1, s1));
+    }
+    for (; i + 4 <= n; i += 4) {
+        const __m128 ph = _mm_loadu_ps(pPhase + i);
+        if (sinCosOutOfRange(ph)) {
+            polarToCart32fScalar(pMagn, pPhase, dst, i, i + 4);
+            continue;
+        }
+        const __m128 mg = _mm_loadu_ps(pMagn + i);
+        __m128 s, c;
+        sincosv(ph, &s, &c);
+        dst.store4(i, _mm_mul_ps(mg, c), _mm_mul_ps(mg, s));
+    }
+    polarToCart32fScalar(pMagn, pPhase, dst, i, n);
 }
 
 // ---- conjugation: (re, -im) ------------------------------------------------

@@ -23,6 +23,15 @@
 namespace veks {
 namespace kern {
 
+// A constant in all four lanes, kept as a 16-byte literal. The literals live
+// in math_sse.cpp, out of the optimiser's sight: it then reads them as memory
+// operands instead of rebuilding each one from a scalar on every step.
+struct alignas(16) Splat {
+    float v[4];
+    constexpr Splat(float x) : v{x, x, x, x} {}
+    __m128 operator()() const { return _mm_load_ps(v); }
+};
+
 // ---- atan2 ---------------------------------------------------------------
 //
 // With ax = |x|, ay = |y|, mn = min, mx = max: atan(mn / mx) lies in
@@ -96,41 +105,47 @@ inline float atan2s(float y, float x) {
     return withSignOf(res, y);
 }
 
+// The same constants as 16-byte literals.
+struct Atan2Lanes {
+    Splat tanPi8, pio4Hi, pio4Lo, big, p0, p1, p2, p3, p4, one, quarter, two, four, inf, signMask;
+};
+extern const Atan2Lanes kAtan2Lanes;
+
 inline __m128 atan2v(__m128 y, __m128 x) {
-    using C = Atan2Consts;
-    const __m128 signMask = _mm_set1_ps(-0.0f);
-    const __m128 one = _mm_set1_ps(1.0f);
-    const __m128 inf = _mm_set1_ps(__builtin_inff());
+    const Atan2Lanes& V = kAtan2Lanes;
+    const __m128 signMask = V.signMask();
+    const __m128 one = V.one();
+    const __m128 inf = V.inf();
     __m128 ax = _mm_andnot_ps(signMask, x), ay = _mm_andnot_ps(signMask, y);
     const __m128 bothInf = _mm_and_ps(_mm_cmpeq_ps(ax, inf), _mm_cmpeq_ps(ay, inf));
     ax = _mm_blendv_ps(ax, one, bothInf);
     ay = _mm_blendv_ps(ay, one, bothInf);
     const __m128 swap = _mm_cmpgt_ps(ay, ax);
     __m128 mx = _mm_blendv_ps(ax, ay, swap), mn = _mm_blendv_ps(ay, ax, swap);
-    const __m128 big = _mm_cmpgt_ps(mx, _mm_set1_ps(C::big));
-    const __m128 scale = _mm_blendv_ps(one, _mm_set1_ps(0.25f), big);
+    const __m128 big = _mm_cmpgt_ps(mx, V.big());
+    const __m128 scale = _mm_blendv_ps(one, V.quarter(), big);
     mx = _mm_mul_ps(mx, scale);
     mn = _mm_mul_ps(mn, scale);
-    const __m128 reduce = _mm_cmpgt_ps(mn, _mm_mul_ps(mx, _mm_set1_ps(C::tanPi8)));
+    const __m128 reduce = _mm_cmpgt_ps(mn, _mm_mul_ps(mx, V.tanPi8()));
     const __m128 num = _mm_blendv_ps(mn, _mm_sub_ps(mn, mx), reduce);
     __m128 den = _mm_blendv_ps(mx, _mm_add_ps(mn, mx), reduce);
     den = _mm_blendv_ps(den, one, _mm_cmpeq_ps(den, _mm_setzero_ps()));
     const __m128 t = _mm_div_ps(num, den);
     const __m128 u = _mm_mul_ps(t, t);
-    __m128 p = _mm_set1_ps(C::p4);
-    p = _mm_add_ps(_mm_mul_ps(p, u), _mm_set1_ps(C::p3));
-    p = _mm_add_ps(_mm_mul_ps(p, u), _mm_set1_ps(C::p2));
-    p = _mm_add_ps(_mm_mul_ps(p, u), _mm_set1_ps(C::p1));
-    p = _mm_add_ps(_mm_mul_ps(p, u), _mm_set1_ps(C::p0));
+    __m128 p = V.p4();
+    p = _mm_add_ps(_mm_mul_ps(p, u), V.p3());
+    p = _mm_add_ps(_mm_mul_ps(p, u), V.p2());
+    p = _mm_add_ps(_mm_mul_ps(p, u), V.p1());
+    p = _mm_add_ps(_mm_mul_ps(p, u), V.p0());
     const __m128 at = _mm_add_ps(t, _mm_mul_ps(t, _mm_mul_ps(u, p)));
     const __m128 xneg = _mm_castsi128_ps(_mm_srai_epi32(_mm_castps_si128(x), 31));
     const __m128 flip = _mm_and_ps(_mm_xor_ps(swap, xneg), signMask);
-    const __m128 off = _mm_blendv_ps(_mm_and_ps(xneg, _mm_set1_ps(4.0f)), _mm_set1_ps(2.0f), swap);
+    const __m128 off = _mm_blendv_ps(_mm_and_ps(xneg, V.four()), V.two(), swap);
     const __m128 cb = _mm_and_ps(reduce, one);
     const __m128 m = _mm_add_ps(off, _mm_xor_ps(cb, flip));
     const __m128 sat = _mm_xor_ps(at, flip);
-    __m128 res = _mm_add_ps(_mm_mul_ps(m, _mm_set1_ps(C::pio4Hi)),
-                            _mm_add_ps(_mm_mul_ps(m, _mm_set1_ps(C::pio4Lo)), sat));
+    __m128 res = _mm_add_ps(_mm_mul_ps(m, V.pio4Hi()),
+                            _mm_add_ps(_mm_mul_ps(m, V.pio4Lo()), sat));
     res = _mm_or_ps(_mm_andnot_ps(signMask, res), _mm_and_ps(signMask, y));
     const __m128 nan = _mm_cmpunord_ps(x, y);
     return _mm_blendv_ps(res, _mm_add_ps(x, y), nan);
@@ -195,31 +210,37 @@ inline int sinCosOutOfRange(__m128 x) {
 }
 
 // Valid for lanes in range; callers check sinCosOutOfRange first.
+struct SinCosLanes {
+    Splat twoOverPi, c1, c2, c3, c4, s1, s2, s3, k1, k2, k3, half, one;
+};
+extern const SinCosLanes kSinCosLanes;
+
 inline void sincosv(__m128 x, __m128* s, __m128* c) {
-    using C = SinCosConsts;
-    const __m128 kf = _mm_add_ps(_mm_round_ps(_mm_mul_ps(x, _mm_set1_ps(C::twoOverPi)),
+    const SinCosLanes& V = kSinCosLanes;
+    const __m128 kf = _mm_add_ps(_mm_round_ps(_mm_mul_ps(x, V.twoOverPi()),
                                               _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC),
                                  _mm_setzero_ps());
     const __m128i k = _mm_cvtps_epi32(kf);
-    __m128 r = _mm_sub_ps(x, _mm_mul_ps(kf, _mm_set1_ps(C::c1)));
-    r = _mm_sub_ps(r, _mm_mul_ps(kf, _mm_set1_ps(C::c2)));
-    r = _mm_sub_ps(r, _mm_mul_ps(kf, _mm_set1_ps(C::c3)));
-    r = _mm_sub_ps(r, _mm_mul_ps(kf, _mm_set1_ps(C::c4)));
+    __m128 r = _mm_sub_ps(x, _mm_mul_ps(kf, V.c1()));
+    r = _mm_sub_ps(r, _mm_mul_ps(kf, V.c2()));
+    r = _mm_sub_ps(r, _mm_mul_ps(kf, V.c3()));
+    r = _mm_sub_ps(r, _mm_mul_ps(kf, V.c4()));
     const __m128 z = _mm_mul_ps(r, r);
-    __m128 ps = _mm_set1_ps(C::s3);
-    ps = _mm_add_ps(_mm_mul_ps(ps, z), _mm_set1_ps(C::s2));
-    ps = _mm_add_ps(_mm_mul_ps(ps, z), _mm_set1_ps(C::s1));
+    __m128 ps = V.s3();
+    ps = _mm_add_ps(_mm_mul_ps(ps, z), V.s2());
+    ps = _mm_add_ps(_mm_mul_ps(ps, z), V.s1());
     const __m128 sr = _mm_add_ps(r, _mm_mul_ps(_mm_mul_ps(r, z), ps));
-    __m128 pc = _mm_set1_ps(C::k3);
-    pc = _mm_add_ps(_mm_mul_ps(pc, z), _mm_set1_ps(C::k2));
-    pc = _mm_add_ps(_mm_mul_ps(pc, z), _mm_set1_ps(C::k1));
-    const __m128 cr = _mm_add_ps(_mm_sub_ps(_mm_mul_ps(_mm_mul_ps(pc, z), z), _mm_mul_ps(_mm_set1_ps(0.5f), z)),
-                                 _mm_set1_ps(1.0f));
-    const __m128 odd = _mm_castsi128_ps(_mm_cmpeq_epi32(_mm_and_si128(k, _mm_set1_epi32(1)), _mm_set1_epi32(1)));
+    __m128 pc = V.k3();
+    pc = _mm_add_ps(_mm_mul_ps(pc, z), V.k2());
+    pc = _mm_add_ps(_mm_mul_ps(pc, z), V.k1());
+    const __m128 cr = _mm_add_ps(_mm_sub_ps(_mm_mul_ps(_mm_mul_ps(pc, z), z), _mm_mul_ps(V.half(), z)), V.one());
+    // Bit 0 of k, moved to the sign bit, selects the swapped polynomials;
+    // bit 1 of k (of k + 1 for the cosine) the negated result.
+    const __m128 odd = _mm_castsi128_ps(_mm_slli_epi32(k, 31));
     const __m128 so = _mm_blendv_ps(sr, cr, odd), co = _mm_blendv_ps(cr, sr, odd);
-    const __m128 sFlip = _mm_castsi128_ps(_mm_slli_epi32(_mm_and_si128(k, _mm_set1_epi32(2)), 30));
-    const __m128 cFlip =
-        _mm_castsi128_ps(_mm_slli_epi32(_mm_and_si128(_mm_add_epi32(k, _mm_set1_epi32(1)), _mm_set1_epi32(2)), 30));
+    const __m128i signBit = _mm_set1_epi32(int(0x80000000u));
+    const __m128 sFlip = _mm_castsi128_ps(_mm_and_si128(_mm_slli_epi32(k, 30), signBit));
+    const __m128 cFlip = _mm_castsi128_ps(_mm_and_si128(_mm_slli_epi32(_mm_add_epi32(k, _mm_set1_epi32(1)), 30), signBit));
     *s = _mm_xor_ps(so, sFlip);
     *c = _mm_xor_ps(co, cFlip);
 }
