@@ -61,6 +61,8 @@ VekResult setElems(const T& val, T* pDst, int len) {
 // is on the stack (32-bit x86). Elsewhere each has its own entry into the
 // same byte routine.
 #if defined(__i386__)
+// The value's type differs between the pair, its bytes on the stack do not.
+#pragma GCC diagnostic ignored "-Wattribute-alias"
 #define VEKS_SET_SHARED(name, T, target) VEKS_ALIAS(VekResult, name, (T val, T * pDst, int len), target)
 #else
 #define VEKS_SET_SHARED(name, T, target) VEKS_SET(name, T)

@@ -13,17 +13,111 @@
 #include <stdint.h>
 #include <string.h>
 
+#include <utility>
+
 namespace veks {
 namespace kern {
 
-inline void copyBytes(void* dst, const void* src, size_t n) { memcpy(dst, src, n); }
+// Up to this many bytes the call into the C library costs more than the
+// copy itself: the copy is done here, in 16-byte pieces.
+constexpr size_t kSmallBytes = 256;
+
+// K 16-byte pieces from the front and K from the back of n bytes, for
+// 16 K <= n <= 32 K; all loaded before any is stored. Written without loops
+// so that the compiler cannot turn it back into a library call.
+template <size_t... I>
+inline void copyFrontBack(unsigned char* d, const unsigned char* s, size_t n, std::index_sequence<I...>) {
+    const __m128i front[] = {_mm_loadu_si128(reinterpret_cast<const __m128i*>(s + 16 * I))...};
+    const size_t back = n - 16 * sizeof...(I);
+    const __m128i rear[] = {_mm_loadu_si128(reinterpret_cast<const __m128i*>(s + back + 16 * I))...};
+    (_mm_storeu_si128(reinterpret_cast<__m128i*>(d + 16 * I), front[I]), ...);
+    (_mm_storeu_si128(reinterpret_cast<__m128i*>(d + back + 16 * I), rear[I]), ...);
+}
+
+// n in [1, kSmallBytes]. Every byte is loaded before the first store, so
+// overlapping buffers are moved correctly too. Pieces at the front and at
+// the back may overlap each other; they carry the same bytes.
+inline void copySmall(unsigned char* d, const unsigned char* s, size_t n) {
+    if (n >= 128) {
+        copyFrontBack(d, s, n, std::make_index_sequence<8>());
+    } else if (n >= 64) {
+        copyFrontBack(d, s, n, std::make_index_sequence<4>());
+    } else if (n >= 32) {
+        copyFrontBack(d, s, n, std::make_index_sequence<2>());
+    } else if (n >= 16) {
+        copyFrontBack(d, s, n, std::make_index_sequence<1>());
+    } else if (n >= 8) {
+        const __m128i a = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(s));
+        const __m128i b = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(s + n - 8));
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(d), a);
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(d + n - 8), b);
+    } else if (n >= 4) {
+        uint32_t a, b;
+        memcpy(&a, s, 4);
+        memcpy(&b, s + n - 4, 4);
+        memcpy(d, &a, 4);
+        memcpy(d + n - 4, &b, 4);
+    } else {
+        const unsigned char a = s[0], b = s[n / 2], c = s[n - 1];
+        d[0] = a;
+        d[n / 2] = b;
+        d[n - 1] = c;
+    }
+}
+
+inline void copyBytes(void* dst, const void* src, size_t n) {
+    if (n <= kSmallBytes) {
+        copySmall(static_cast<unsigned char*>(dst), static_cast<const unsigned char*>(src), n);
+        return;
+    }
+    memcpy(dst, src, n);
+}
 
 // Overlap is allowed; the destination ends holding the source's former bytes.
 inline void moveBytes(void* dst, const void* src, size_t n) {
-    if (dst != src) memmove(dst, src, n);
+    if (dst == src) return;
+    if (n <= kSmallBytes) {
+        copySmall(static_cast<unsigned char*>(dst), static_cast<const unsigned char*>(src), n);
+        return;
+    }
+    memmove(dst, src, n);
 }
 
-inline void fillBytes(void* dst, unsigned char value, size_t n) { memset(dst, value, n); }
+// n in [1, kSmallBytes]: the 16-byte pattern v stored so that every byte
+// of the destination gets v's byte at its offset modulo 16 from d, which is
+// right for any pattern whose width divides both 16 and n.
+template <size_t... I>
+inline void fillFrontBack(unsigned char* d, __m128i v, size_t n, std::index_sequence<I...>) {
+    (_mm_storeu_si128(reinterpret_cast<__m128i*>(d + 16 * I), v), ...);
+    (_mm_storeu_si128(reinterpret_cast<__m128i*>(d + n - 16 * sizeof...(I) + 16 * I), v), ...);
+}
+
+inline void fillSmall(unsigned char* d, __m128i v, size_t n) {
+    if (n >= 128) {
+        fillFrontBack(d, v, n, std::make_index_sequence<8>());
+    } else if (n >= 64) {
+        fillFrontBack(d, v, n, std::make_index_sequence<4>());
+    } else if (n >= 32) {
+        fillFrontBack(d, v, n, std::make_index_sequence<2>());
+    } else if (n >= 16) {
+        fillFrontBack(d, v, n, std::make_index_sequence<1>());
+    } else if (n >= 8) {
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(d), v);
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(d + n - 8), v);
+    } else {
+        unsigned char b[16];
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(b), v);
+        for (size_t i = 0; i < n; ++i) d[i] = b[i];
+    }
+}
+
+inline void fillBytes(void* dst, unsigned char value, size_t n) {
+    if (n <= kSmallBytes) {
+        fillSmall(static_cast<unsigned char*>(dst), _mm_set1_epi8(static_cast<char>(value)), n);
+        return;
+    }
+    memset(dst, value, n);
+}
 
 // Writes `count` copies of the W-byte pattern, byte for byte.
 template <size_t W>
@@ -38,24 +132,52 @@ inline void fillPatternScalar(void* dst, const void* pattern, size_t count) {
 // the stores bypass them.
 constexpr size_t kStreamingFillBytes = size_t(4) << 20;
 
+// From kPatternDoubling bytes up to the streaming size a pattern fill writes
+// one block of kPatternBlock bytes and copies it along.
+constexpr size_t kPatternBlock = kSmallBytes;
+constexpr size_t kPatternDoubling = 2048;
+
+// The W-byte pattern repeated over 16 bytes.
+template <size_t W>
+inline __m128i splatPattern(const void* pattern) {
+    if constexpr (W == 2) {
+        uint16_t x;
+        memcpy(&x, pattern, 2);
+        return _mm_set1_epi16(static_cast<short>(x));
+    } else if constexpr (W == 4) {
+        uint32_t x;
+        memcpy(&x, pattern, 4);
+        return _mm_set1_epi32(static_cast<int>(x));
+    } else if constexpr (W == 8) {
+        const __m128i x = _mm_loadl_epi64(static_cast<const __m128i*>(pattern));
+        return _mm_unpacklo_epi64(x, x);
+    } else {
+        return _mm_loadu_si128(static_cast<const __m128i*>(pattern));
+    }
+}
+
 template <size_t W>
 inline void fillPattern(void* dst, const void* pattern, size_t count) {
     static_assert(W == 2 || W == 4 || W == 8 || W == 16, "pattern widths divide 16");
     const size_t n = count * W;
     unsigned char* d = static_cast<unsigned char*>(dst);
-    if (n < 32) {
-        fillPatternScalar<W>(dst, pattern, count);
+    const __m128i first = splatPattern<W>(pattern);
+    if (n <= kSmallBytes) {
+        fillSmall(d, first, n);
         return;
     }
-    // 32 bytes of the repeated pattern; a 16-byte window starting at byte k
-    // is the pattern as seen from a destination byte k bytes into an element.
-    alignas(16) unsigned char rep[32];
-    for (size_t i = 0; i < 32; ++i) rep[i] = static_cast<const unsigned char*>(pattern)[i % W];
-    const __m128i first = _mm_load_si128(reinterpret_cast<const __m128i*>(rep));
     _mm_storeu_si128(reinterpret_cast<__m128i*>(d), first);
-    // From the first 16-byte boundary on, every store is aligned.
+    // From the first 16-byte boundary on, every store is aligned. When the
+    // boundary falls inside an element (a start not aligned to the element
+    // width) the pattern is rotated to start at that byte of the element.
     const size_t head = (16 - (reinterpret_cast<uintptr_t>(d) & 15)) & 15;
-    const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(rep + head % W));
+    __m128i v = first;
+    if (head % W) {
+        alignas(16) unsigned char rep[32];
+        _mm_store_si128(reinterpret_cast<__m128i*>(rep), first);
+        _mm_store_si128(reinterpret_cast<__m128i*>(rep + 16), first);
+        v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(rep + head % W));
+    }
     unsigned char* p = d + head;
     unsigned char* const end = d + n;
     if (n >= kStreamingFillBytes) {
@@ -66,6 +188,19 @@ inline void fillPattern(void* dst, const void* pattern, size_t count) {
             _mm_stream_si128(reinterpret_cast<__m128i*>(p + 48), v);
         }
         _mm_sfence();
+    } else if (n >= kPatternDoubling) {
+        // Fill one block, then double the filled part with the C library's
+        // copy, whose stores are wider than the 16 bytes available here.
+        // Every length copied is a multiple of the block and so of every
+        // pattern width: each copy keeps the phase.
+        fillSmall(d, first, kPatternBlock);
+        size_t done = kPatternBlock;
+        while (done < n) {
+            const size_t len = done <= n - done ? done : n - done;
+            memcpy(d + done, d, len);
+            done += len;
+        }
+        return;
     } else {
         for (; p + 64 <= end; p += 64) {
             _mm_store_si128(reinterpret_cast<__m128i*>(p), v);
