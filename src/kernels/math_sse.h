@@ -23,14 +23,21 @@
 namespace veks {
 namespace kern {
 
-// A constant in all four lanes, kept as a 16-byte literal. The literals live
-// in math_sse.cpp, out of the optimiser's sight: it then reads them as memory
-// operands instead of rebuilding each one from a scalar on every step.
+// A constant in all four lanes, kept as a 16-byte literal. The kernels reach
+// their table of literals through a pointer the optimiser cannot see
+// through, so it reads them as memory operands instead of
+// rebuilding each one from a scalar on every step.
 struct alignas(16) Splat {
     float v[4];
     constexpr Splat(float x) : v{x, x, x, x} {}
     __m128 operator()() const { return _mm_load_ps(v); }
 };
+
+template <class T>
+inline const T* opaque(const T* p) {
+    __asm__("" : "+r"(p));
+    return p;
+}
 
 // ---- atan2 ---------------------------------------------------------------
 //
@@ -109,10 +116,13 @@ inline float atan2s(float y, float x) {
 struct Atan2Lanes {
     Splat tanPi8, pio4Hi, pio4Lo, big, p0, p1, p2, p3, p4, one, quarter, two, four, inf, signMask;
 };
-extern const Atan2Lanes kAtan2Lanes;
+inline constexpr Atan2Lanes kAtan2Lanes = {
+    Atan2Consts::tanPi8, Atan2Consts::pio4Hi, Atan2Consts::pio4Lo, Atan2Consts::big, Atan2Consts::p0,
+    Atan2Consts::p1,     Atan2Consts::p2,     Atan2Consts::p3,     Atan2Consts::p4,  1.0f,
+    0.25f,               2.0f,                4.0f,                __builtin_inff(), -0.0f};
 
 inline __m128 atan2v(__m128 y, __m128 x) {
-    const Atan2Lanes& V = kAtan2Lanes;
+    const Atan2Lanes& V = *opaque(&kAtan2Lanes);
     const __m128 signMask = V.signMask();
     const __m128 one = V.one();
     const __m128 inf = V.inf();
@@ -213,10 +223,13 @@ inline int sinCosOutOfRange(__m128 x) {
 struct SinCosLanes {
     Splat twoOverPi, c1, c2, c3, c4, s1, s2, s3, k1, k2, k3, half, one;
 };
-extern const SinCosLanes kSinCosLanes;
+inline constexpr SinCosLanes kSinCosLanes = {
+    SinCosConsts::twoOverPi, SinCosConsts::c1, SinCosConsts::c2, SinCosConsts::c3, SinCosConsts::c4,
+    SinCosConsts::s1,        SinCosConsts::s2, SinCosConsts::s3, SinCosConsts::k1, SinCosConsts::k2,
+    SinCosConsts::k3,        0.5f,             1.0f};
 
 inline void sincosv(__m128 x, __m128* s, __m128* c) {
-    const SinCosLanes& V = kSinCosLanes;
+    const SinCosLanes& V = *opaque(&kSinCosLanes);
     const __m128 kf = _mm_add_ps(_mm_round_ps(_mm_mul_ps(x, V.twoOverPi()),
                                               _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC),
                                  _mm_setzero_ps());
