@@ -126,7 +126,7 @@ void polarToCart32f(const T32f* pMagn, const T32f* pPhase, const Dst& dst, size_
     // far from zero (or not finite) take the scalar path whole.
     for (; i + 8 <= n; i += 8) {
         const __m128 ph0 = _mm_loadu_ps(pPhase + i), ph1 = _mm_loadu_ps(pPhase + i + 4);
-        if (sinCosOutOfRange(ph0) | sinCosOutOfRange(ph1)) {
+        if (sinCosOutOfRange(ph0, ph1)) {
             polarToCart32fScalar(pMagn, pPhase, dst, i, i + 8);
             continue;
         }

@@ -184,6 +184,16 @@ struct SinCosConsts {
 // Largest |x| for the polynomial path: k stays below 2^12.
 constexpr float kSinCosLimit = 4096.0f;
 
+struct SinCosLanes {
+    Splat twoOverPi, c1, c2, c3, c4, s1, s2, s3, k1, k2, k3, half, one, signMask, limit;
+};
+inline constexpr SinCosLanes kSinCosLanes = {
+    SinCosConsts::twoOverPi, SinCosConsts::c1, SinCosConsts::c2, SinCosConsts::c3, SinCosConsts::c4,
+    SinCosConsts::s1,        SinCosConsts::s2, SinCosConsts::s3, SinCosConsts::k1, SinCosConsts::k2,
+    SinCosConsts::k3,        0.5f,             1.0f,             -0.0f,            kSinCosLimit};
+
+
+
 inline bool sinCosInRange(float x) { return fabsf(x) <= kSinCosLimit; }
 
 inline void sincoss(float x, float* s, float* c) {
@@ -215,19 +225,20 @@ inline void sincoss(float x, float* s, float* c) {
 
 // Lanes whose |x| is beyond kSinCosLimit (or NaN) need the scalar path.
 inline int sinCosOutOfRange(__m128 x) {
-    const __m128 ax = _mm_andnot_ps(_mm_set1_ps(-0.0f), x);
-    return _mm_movemask_ps(_mm_cmpnle_ps(ax, _mm_set1_ps(kSinCosLimit)));
+    const SinCosLanes& V = *opaque(&kSinCosLanes);
+    const __m128 ax = _mm_andnot_ps(V.signMask(), x);
+    return _mm_movemask_ps(_mm_cmpnle_ps(ax, V.limit()));
+}
+
+// The same for two groups at once (a NaN in either makes the maximum NaN
+// or is caught by the unordered comparison).
+inline int sinCosOutOfRange(__m128 x0, __m128 x1) {
+    const SinCosLanes& V = *opaque(&kSinCosLanes);
+    const __m128 a0 = _mm_andnot_ps(V.signMask(), x0), a1 = _mm_andnot_ps(V.signMask(), x1);
+    return _mm_movemask_ps(_mm_or_ps(_mm_cmpnle_ps(a0, V.limit()), _mm_cmpnle_ps(a1, V.limit())));
 }
 
 // Valid for lanes in range; callers check sinCosOutOfRange first.
-struct SinCosLanes {
-    Splat twoOverPi, c1, c2, c3, c4, s1, s2, s3, k1, k2, k3, half, one;
-};
-inline constexpr SinCosLanes kSinCosLanes = {
-    SinCosConsts::twoOverPi, SinCosConsts::c1, SinCosConsts::c2, SinCosConsts::c3, SinCosConsts::c4,
-    SinCosConsts::s1,        SinCosConsts::s2, SinCosConsts::s3, SinCosConsts::k1, SinCosConsts::k2,
-    SinCosConsts::k3,        0.5f,             1.0f};
-
 inline void sincosv(__m128 x, __m128* s, __m128* c) {
     const SinCosLanes& V = *opaque(&kSinCosLanes);
     const __m128 kf = _mm_add_ps(_mm_round_ps(_mm_mul_ps(x, V.twoOverPi()),
@@ -248,12 +259,12 @@ inline void sincosv(__m128 x, __m128* s, __m128* c) {
     pc = _mm_add_ps(_mm_mul_ps(pc, z), V.k1());
     const __m128 cr = _mm_add_ps(_mm_sub_ps(_mm_mul_ps(_mm_mul_ps(pc, z), z), _mm_mul_ps(V.half(), z)), V.one());
     // Bit 0 of k, moved to the sign bit, selects the swapped polynomials;
-    // bit 1 of k (of k + 1 for the cosine) the negated result.
+    // bit 1 of k (of k + 1 for the cosine, which is bit 1 of k flipped by
+    // bit 0) the negated result.
     const __m128 odd = _mm_castsi128_ps(_mm_slli_epi32(k, 31));
     const __m128 so = _mm_blendv_ps(sr, cr, odd), co = _mm_blendv_ps(cr, sr, odd);
-    const __m128i signBit = _mm_set1_epi32(int(0x80000000u));
-    const __m128 sFlip = _mm_castsi128_ps(_mm_and_si128(_mm_slli_epi32(k, 30), signBit));
-    const __m128 cFlip = _mm_castsi128_ps(_mm_and_si128(_mm_slli_epi32(_mm_add_epi32(k, _mm_set1_epi32(1)), 30), signBit));
+    const __m128 sFlip = _mm_castsi128_ps(_mm_and_si128(_mm_slli_epi32(k, 30), _mm_castps_si128(V.signMask())));
+    const __m128 cFlip = _mm_xor_ps(sFlip, odd);
     *s = _mm_xor_ps(so, sFlip);
     *c = _mm_xor_ps(co, cFlip);
 }
