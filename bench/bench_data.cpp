@@ -16,7 +16,8 @@ namespace {
 // Byte counts from 64 B to 64 MiB; the second argument is the misalignment
 // of both buffers in bytes (0, or 4: one T32f element).
 void byteSizes(benchmark::internal::Benchmark* b) {
-    for (int64_t bytes = 64; bytes <= (int64_t(64) << 20); bytes *= 8)
+    for (int64_t bytes : {int64_t(64), int64_t(512), int64_t(4) << 10, int64_t(32) << 10, int64_t(256) << 10,
+                          int64_t(2) << 20, int64_t(16) << 20, int64_t(64) << 20})
         for (int64_t mis : {0, 4}) b->Args({bytes, mis});
 }
 

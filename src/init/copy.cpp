@@ -32,13 +32,27 @@ VekResult zeroElems(T* pDst, int len) {
     return VEK_OK;
 }
 
+// The value repeated over 16 bytes, built from the registers it arrived in
+// (a round trip through memory would stall on reading back in one piece
+// what was stored in two).
+inline __m128i splatValue(T16s v) { return _mm_set1_epi16(v); }
+inline __m128i splatValue(T16sc v) { return _mm_setr_epi16(v.re, v.im, v.re, v.im, v.re, v.im, v.re, v.im); }
+inline __m128i splatValue(T32s v) { return _mm_set1_epi32(v); }
+inline __m128i splatValue(T32f v) { return _mm_castps_si128(_mm_set1_ps(v)); }
+inline __m128i splatValue(T32sc v) { return _mm_setr_epi32(v.re, v.im, v.re, v.im); }
+inline __m128i splatValue(T32fc v) { return _mm_castps_si128(_mm_setr_ps(v.re, v.im, v.re, v.im)); }
+inline __m128i splatValue(T64s v) { return _mm_set1_epi64x(v); }
+inline __m128i splatValue(T64f v) { return _mm_castpd_si128(_mm_set1_pd(v)); }
+inline __m128i splatValue(T64sc v) { return _mm_set_epi64x(v.im, v.re); }
+inline __m128i splatValue(T64fc v) { return _mm_castpd_si128(_mm_unpacklo_pd(_mm_set_sd(v.re), _mm_set_sd(v.im))); }
+
 template <class T>
-VekResult setElems(const T& val, T* pDst, int len) {
+VekResult setElems(T val, T* pDst, int len) {
     if (VekResult st = checkPtrsLen(len, pDst)) return st;
     if constexpr (sizeof(T) == 1) {
         kern::fillBytes(pDst, static_cast<unsigned char>(val), static_cast<size_t>(len));
     } else {
-        kern::fillPattern<sizeof(T)>(pDst, &val, static_cast<size_t>(len));
+        kern::fillPattern<sizeof(T)>(pDst, splatValue(val), static_cast<size_t>(len));
     }
     return VEK_OK;
 }

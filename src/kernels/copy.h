@@ -8,7 +8,7 @@
 // the caches, and fillPatternScalar is its twin and oracle.
 #pragma once
 
-#include <emmintrin.h>
+#include <tmmintrin.h>
 #include <stddef.h>
 #include <stdint.h>
 #include <string.h>
@@ -38,11 +38,11 @@ inline void copyFrontBack(unsigned char* d, const unsigned char* s, size_t n, st
 // overlapping buffers are moved correctly too. Pieces at the front and at
 // the back may overlap each other; they carry the same bytes.
 inline void copySmall(unsigned char* d, const unsigned char* s, size_t n) {
-    if (n >= 128) {
+    if (n > 128) {
         copyFrontBack(d, s, n, std::make_index_sequence<8>());
-    } else if (n >= 64) {
+    } else if (n > 64) {
         copyFrontBack(d, s, n, std::make_index_sequence<4>());
-    } else if (n >= 32) {
+    } else if (n > 32) {
         copyFrontBack(d, s, n, std::make_index_sequence<2>());
     } else if (n >= 16) {
         copyFrontBack(d, s, n, std::make_index_sequence<1>());
@@ -93,11 +93,11 @@ inline void fillFrontBack(unsigned char* d, __m128i v, size_t n, std::index_sequ
 }
 
 inline void fillSmall(unsigned char* d, __m128i v, size_t n) {
-    if (n >= 128) {
+    if (n > 128) {
         fillFrontBack(d, v, n, std::make_index_sequence<8>());
-    } else if (n >= 64) {
+    } else if (n > 64) {
         fillFrontBack(d, v, n, std::make_index_sequence<4>());
-    } else if (n >= 32) {
+    } else if (n > 32) {
         fillFrontBack(d, v, n, std::make_index_sequence<2>());
     } else if (n >= 16) {
         fillFrontBack(d, v, n, std::make_index_sequence<1>());
@@ -136,32 +136,14 @@ constexpr size_t kStreamingFillBytes = size_t(4) << 20;
 // one block of kPatternBlock bytes and copies it along.
 constexpr size_t kPatternBlock = kSmallBytes;
 constexpr size_t kPatternDoubling = 2048;
+constexpr size_t kPatternSource = size_t(16) << 10;
 
-// The W-byte pattern repeated over 16 bytes.
+// `first` holds the W-byte pattern repeated over 16 bytes.
 template <size_t W>
-inline __m128i splatPattern(const void* pattern) {
-    if constexpr (W == 2) {
-        uint16_t x;
-        memcpy(&x, pattern, 2);
-        return _mm_set1_epi16(static_cast<short>(x));
-    } else if constexpr (W == 4) {
-        uint32_t x;
-        memcpy(&x, pattern, 4);
-        return _mm_set1_epi32(static_cast<int>(x));
-    } else if constexpr (W == 8) {
-        const __m128i x = _mm_loadl_epi64(static_cast<const __m128i*>(pattern));
-        return _mm_unpacklo_epi64(x, x);
-    } else {
-        return _mm_loadu_si128(static_cast<const __m128i*>(pattern));
-    }
-}
-
-template <size_t W>
-inline void fillPattern(void* dst, const void* pattern, size_t count) {
+inline void fillPattern(void* dst, __m128i first, size_t count) {
     static_assert(W == 2 || W == 4 || W == 8 || W == 16, "pattern widths divide 16");
     const size_t n = count * W;
     unsigned char* d = static_cast<unsigned char*>(dst);
-    const __m128i first = splatPattern<W>(pattern);
     if (n <= kSmallBytes) {
         fillSmall(d, first, n);
         return;
@@ -173,10 +155,12 @@ inline void fillPattern(void* dst, const void* pattern, size_t count) {
     const size_t head = (16 - (reinterpret_cast<uintptr_t>(d) & 15)) & 15;
     __m128i v = first;
     if (head % W) {
-        alignas(16) unsigned char rep[32];
-        _mm_store_si128(reinterpret_cast<__m128i*>(rep), first);
-        _mm_store_si128(reinterpret_cast<__m128i*>(rep + 16), first);
-        v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(rep + head % W));
+        // Byte i of v is byte (i + head) mod 16 of the periodic pattern.
+        const __m128i idx = _mm_and_si128(
+            _mm_add_epi8(_mm_setr_epi8(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15),
+                         _mm_set1_epi8(static_cast<char>(head))),
+            _mm_set1_epi8(15));
+        v = _mm_shuffle_epi8(first, idx);
     }
     unsigned char* p = d + head;
     unsigned char* const end = d + n;
@@ -189,16 +173,21 @@ inline void fillPattern(void* dst, const void* pattern, size_t count) {
         }
         _mm_sfence();
     } else if (n >= kPatternDoubling) {
-        // Fill one block, then double the filled part with the C library's
-        // copy, whose stores are wider than the 16 bytes available here.
-        // Every length copied is a multiple of the block and so of every
-        // pattern width: each copy keeps the phase.
+        // Fill one block, double the filled part with the C library's copy
+        // (whose stores are wider than the 16 bytes available here) up to a
+        // source that stays in the first-level cache, then copy that source
+        // along. Every length copied is a multiple of the block and so of
+        // every pattern width: each copy keeps the phase.
         fillSmall(d, first, kPatternBlock);
         size_t done = kPatternBlock;
-        while (done < n) {
+        while (done < kPatternSource && done < n) {
             const size_t len = done <= n - done ? done : n - done;
             memcpy(d + done, d, len);
             done += len;
+        }
+        for (; done < n; done += kPatternSource) {
+            const size_t len = kPatternSource <= n - done ? kPatternSource : n - done;
+            memcpy(d + done, d, len);
         }
         return;
     } else {

@@ -156,7 +156,7 @@ TEST(Contract, CheckOrderAndNothingWritten) {
         for (int nulled = -1; nulled < row.pointers; ++nulled) {
             for (int len : {4, 0, -1}) {
                 std::vector<vt::Guarded<unsigned char>> bufs;
-                for (int i = 0; i < 4; ++i) bufs.emplace_back(std::vector<unsigned char>(64, 0x11), i);
+                for (int i = 0; i < 4; ++i) bufs.emplace_back(std::vector<unsigned char>(64, 0x11), 16 * i);
                 void* ptrs[4];
                 for (int i = 0; i < 4; ++i) {
                     bufs[static_cast<size_t>(i)].freeze();
