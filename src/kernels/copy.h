@@ -1,17 +1,20 @@
 // Byte-level copy, move and fill loops shared by every element width.
 //
-// The C library's memcpy, memmove and memset are the fastest copies on the
-// build's processors (they pick their own block sizes and streaming stores),
-// so plain copies and zero fills go straight to them. Filling with a pattern
-// of 2, 4, 8 or 16 bytes has no library routine: fillPattern stores 16-byte
-// blocks at aligned addresses, with streaming stores for fills larger than
-// the caches, and fillPatternScalar is its twin and oracle.
+// The C library's memcpy, memmove and memset use stores wider than the 16
+// bytes of this build and pick their own block sizes and streaming stores,
+// so copies and zero fills above kSmallBytes go straight to them; below,
+// where the call would cost more than the work, they are done here. Filling
+// with a pattern of 2, 4, 8 or 16 bytes has no library routine: fillPattern
+// stores small fills directly, mid-sized ones at 16-byte aligned addresses,
+// larger ones by copying a filled block along with memcpy, and fills larger
+// than the caches with streaming stores. fillPatternScalar is its twin and
+// oracle.
 #pragma once
 
-#include <tmmintrin.h>
 #include <stddef.h>
 #include <stdint.h>
 #include <string.h>
+#include <tmmintrin.h>
 
 #include <utility>
 
@@ -128,12 +131,14 @@ inline void fillPatternScalar(void* dst, const void* pattern, size_t count) {
         for (size_t b = 0; b < W; ++b) d[i * W + b] = p[b];
 }
 
-// Above this many bytes a fill would only push useful data out of the caches:
-// the stores bypass them.
-constexpr size_t kStreamingFillBytes = size_t(4) << 20;
+// Above this many bytes a fill would only push useful data out of the caches
+// (the last-level caches of current servers hold tens of megabytes): the
+// stores bypass them.
+constexpr size_t kStreamingFillBytes = size_t(32) << 20;
 
 // From kPatternDoubling bytes up to the streaming size a pattern fill writes
-// one block of kPatternBlock bytes and copies it along.
+// one block of kPatternBlock bytes, doubles it up to kPatternSource bytes and
+// copies that source along.
 constexpr size_t kPatternBlock = kSmallBytes;
 constexpr size_t kPatternDoubling = 2048;
 constexpr size_t kPatternSource = size_t(16) << 10;

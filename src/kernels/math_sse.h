@@ -24,9 +24,9 @@ namespace veks {
 namespace kern {
 
 // A constant in all four lanes, kept as a 16-byte literal. The kernels reach
-// their table of literals through a pointer the optimiser cannot see
-// through, so it reads them as memory operands instead of
-// rebuilding each one from a scalar on every step.
+// their table of literals through a pointer the optimiser cannot see through
+// (opaque), so it reads them as memory operands instead of rebuilding each
+// one from a scalar on every step.
 struct alignas(16) Splat {
     float v[4];
     constexpr Splat(float x) : v{x, x, x, x} {}

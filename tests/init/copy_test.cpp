@@ -144,7 +144,7 @@ TEST(CopyMoveSetZero, SetKeepsFloatBitsAndLargeFills) {
     T32f nan;
     const uint32_t bits = 0x7FA12345u;
     memcpy(&nan, &bits, 4);
-    const int len = (4 << 20) / 4 + 3;
+    const int len = (32 << 20) / 4 + 3;
     vt::Guarded<T32f> big(static_cast<size_t>(len), 1);
     ASSERT_EQ(veksSet_32f(nan, big.data(), len), VEK_OK);
     ASSERT_TRUE(big.intact());

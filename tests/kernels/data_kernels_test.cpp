@@ -91,7 +91,7 @@ void checkFill(vt::Rng& rng) {
     for (size_t i = 0; i < 16; ++i) rep[i] = pattern[i % W];
     const __m128i splat = _mm_loadu_si128(reinterpret_cast<const __m128i*>(rep));
     for (size_t count : {size_t(1), size_t(3), size_t(16), size_t(17), size_t(255), size_t(256 / W + 1),
-                         size_t(2048 / W), size_t(2048 / W + 5), size_t(100000 / W), size_t((5 << 20) / W + 1)}) {
+                         size_t(2048 / W), size_t(2048 / W + 5), size_t(100000 / W), size_t((33 << 20) / W + 1)}) {
         // Starts aligned, misaligned by an element and inside an element.
         for (size_t mis : {size_t(0), W, size_t(1), size_t(3)}) {
             std::vector<unsigned char> a(count * W + 64, 0x5A), b(count * W + 64, 0x5A);
