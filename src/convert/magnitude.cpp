@@ -32,9 +32,9 @@ inline uint64_t isqrt(uint64_t n) {
 // exact for every scale factor.
 inline uint64_t sqrtScaled(uint64_t n, int sf, uint64_t hi) {
     if (n == 0) return 0;
+    if (sf <= -32) return hi;  // sqrt(n) >= 1 and hi < 2^32
     if (sf <= 0) {
         const int k = -sf;
-        if (k >= 32) return hi;  // sqrt(n) >= 1
         const uint64_t r = isqrt(n);
         if ((r << k) > hi) return hi;
         // Now n * 4^k < 2^64: round sqrt(n * 4^k) to nearest; sqrt(m) can
@@ -100,7 +100,8 @@ struct Power16s32f : ElementOp<Power16s32f> {
 
 struct Power16sSfs : ElementOp<Power16sSfs> {
     static T16s apply(T16s re, T16s im, int sf) {
-        return scaleSat<T16s>(static_cast<int64_t>(sumSquares(re, im)), sf);
+        // |s| <= 2^31: beyond +-64 every scale factor gives what +-64 gives.
+        return scaleSat<T16s>(static_cast<int64_t>(sumSquares(re, im)), sf < -64 ? -64 : sf > 64 ? 64 : sf);
     }
 };
 

@@ -47,7 +47,8 @@ struct Phase16sSfs {
             for (size_t i = 0; i < n; ++i) pDst[i] = 0;
             return;
         }
-        const float factor = powf(2.0f, static_cast<float>(-sf));
+        // 2^-sf in single precision: infinite from -128 on.
+        const float factor = sf <= -128 ? __builtin_inff() : ldexpf(1.0f, -sf);
         if (sf >= -28) {
             for (size_t i = 0; i < n; ++i) {
                 const float a = static_cast<float>(angle(s.re(i), s.im(i)));
@@ -64,7 +65,10 @@ struct Phase16sSfs {
 };
 
 struct Phase32scSfs : ElementOp<Phase32scSfs> {
-    static T32s apply(T32s re, T32s im, int sf) { return roundSat<T32s>(angle(re, im), VEK_ROUND_NEAR, sf); }
+    // |angle| <= pi: beyond +-1100 every scale factor gives what +-1100 gives.
+    static T32s apply(T32s re, T32s im, int sf) {
+        return roundSat<T32s>(angle(re, im), VEK_ROUND_NEAR, sf < -1100 ? -1100 : sf > 1100 ? 1100 : sf);
+    }
 };
 
 }  // namespace

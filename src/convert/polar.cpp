@@ -106,9 +106,10 @@ template <class TIn, class TOut>
 void polarToCartInt(const TIn* pMagn, const TIn* pPhase, TOut* pDst, size_t n, int magnShift,
                     int phaseShift) {
     using B = Base<TOut>;
-    const double phaseUnit = ldexp(1.0, -phaseShift);
+    // Past +-1100 fraction bits a phase is 0 or not finite either way.
+    const int shift = phaseShift < -1100 ? -1100 : phaseShift > 1100 ? 1100 : phaseShift;
     for (size_t i = 0; i < n; ++i) {
-        const double ph = static_cast<double>(pPhase[i]) * phaseUnit;
+        const double ph = ldexp(static_cast<double>(pPhase[i]), -shift);
         const double m = static_cast<double>(pMagn[i]);
         pDst[i].re = roundSat<B>(m * cos(ph), VEK_ROUND_NEAR, magnShift);
         pDst[i].im = roundSat<B>(m * sin(ph), VEK_ROUND_NEAR, magnShift);

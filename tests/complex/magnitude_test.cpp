@@ -172,6 +172,43 @@ TEST(Magnitude, ScaledThirtyTwoBit) {
     }
 }
 
+TEST(ScaledMembers, ExtremeScaleFactors) {
+    // The most negative scale factor saturates every non-zero result and
+    // keeps zeros; the most positive gives zeros.
+    const T16sc c16[3] = {{0, 0}, {3, -4}, {-1, 0}};
+    const T16s re16[3] = {0, 3, -1}, im16[3] = {0, -4, 0};
+    const T32sc c32[3] = {{0, 0}, {3, -4}, {-1, -1}};
+    for (int sf : {INT32_MIN, INT32_MAX}) {
+        const bool low = sf < 0;
+        T16s a[3], b[3], p1[3], p2[3], ph[3], ph2[3];
+        T32s m32[3], q32[3], ph32[3];
+        ASSERT_EQ(veksMagnitude_16sc_Sfs(c16, a, 3, sf), VEK_OK);
+        ASSERT_EQ(veksMagnitude_16s_Sfs(re16, im16, b, 3, sf), VEK_OK);
+        ASSERT_EQ(veksPowerSpectr_16sc_Sfs(c16, p1, 3, sf), VEK_OK);
+        ASSERT_EQ(veksPowerSpectr_16s_Sfs(re16, im16, p2, 3, sf), VEK_OK);
+        ASSERT_EQ(veksPhase_16sc_Sfs(c16, ph, 3, sf), VEK_OK);
+        ASSERT_EQ(veksPhase_16s_Sfs(re16, im16, ph2, 3, sf), VEK_OK);
+        ASSERT_EQ(veksMagnitude_32sc_Sfs(c32, m32, 3, sf), VEK_OK);
+        ASSERT_EQ(veksMagSquared_32sc32s_Sfs(c32, q32, 3, sf), VEK_OK);
+        ASSERT_EQ(veksPhase_32sc_Sfs(c32, ph32, 3, sf), VEK_OK);
+        for (const T16s* r : {a, b, p1, p2}) {
+            EXPECT_EQ(r[0], 0) << sf;
+            EXPECT_EQ(r[1], low ? 32767 : 0) << sf;
+        }
+        // Angles: 0, atan2(-4, 3) < 0, pi (or -3pi/4 for 32sc's (-1, -1)).
+        EXPECT_EQ(ph[0], 0);
+        EXPECT_EQ(ph[1], low ? -32768 : 0);
+        EXPECT_EQ(ph[2], low ? 32767 : 0);
+        EXPECT_TRUE(ph2[0] == ph[0] && ph2[1] == ph[1] && ph2[2] == ph[2]);
+        EXPECT_EQ(m32[0], 0);
+        EXPECT_EQ(m32[1], low ? INT32_MAX : 0);
+        EXPECT_EQ(q32[1], low ? INT32_MAX : 0);
+        EXPECT_EQ(ph32[0], 0);
+        EXPECT_EQ(ph32[1], low ? INT32_MIN : 0);
+        EXPECT_EQ(ph32[2], low ? INT32_MIN : 0);
+    }
+}
+
 // ---- Phase ---------------------------------------------------------------------
 
 // The kernel's bound for single-precision atan2 (see the kernel's notes).

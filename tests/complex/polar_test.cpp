@@ -154,6 +154,15 @@ TEST(PolarToCart, IntegerMembers) {
 
 TEST(PolarToCart, FixedPointCheckOrder) {
     const T16s m[2] = {1, 2}, p[2] = {0, 0};
+    // Past the range of a double, a zero phase still reads as 0 radians.
+    {
+        const T16s mg[2] = {100, 100}, ph[2] = {0, 0};
+        T16sc out[2];
+        ASSERT_EQ(veksPolarToCart_16sc(mg, ph, INT32_MIN, out, 2), VEK_OK);
+        EXPECT_TRUE(out[0].re == 100 && out[0].im == 0);
+        ASSERT_EQ(veksPolarToCart_16sc_Sfs(mg, ph, out, 2, INT32_MIN, INT32_MIN), VEK_OK);
+        EXPECT_EQ(out[0].re, 32767);  // 100 * 2^31 saturates
+    }
     const struct { bool null; int len; int fp; VekResult want; } cases[] = {
         {false, 2, 16, VEK_ERR_SIZE}, {false, 2, 99, VEK_ERR_SIZE},           {false, 0, 0, VEK_ERR_SIZE},
         {true, 0, 16, VEK_ERR_NULL_POINTER}, {false, 2, 15, VEK_OK}, {false, 2, -4, VEK_OK},
