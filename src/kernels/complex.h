@@ -110,7 +110,7 @@ void phase32f(const Src& src, T32f* pDst, size_t n) {
 // ---- polar to Cartesian: magn * cos(phase), magn * sin(phase) -------------
 
 template <class Dst>
-void polarToCart32fScalar(const T32f* pMagn, const T32f* pPhase, const Dst& dst, size_t from, size_t to) {
+void polarToCart32fScalar(const T32f* pMagn, const T32f* pPhase, Dst dst, size_t from, size_t to) {
     for (size_t i = from; i < to; ++i) {
         float s, c;
         sincoss(pPhase[i], &s, &c);
@@ -120,7 +120,7 @@ void polarToCart32fScalar(const T32f* pMagn, const T32f* pPhase, const Dst& dst,
 }
 
 template <class Dst>
-void polarToCart32f(const T32f* pMagn, const T32f* pPhase, const Dst& dst, size_t n) {
+void polarToCart32f(const T32f* pMagn, const T32f* pPhase, Dst dst, size_t n) {
     size_t i = 0;
     // Two independent groups per step, as in phase32f. Groups with a lane
     // far from zero (or not finite) take the scalar path whole.
