@@ -203,23 +203,25 @@ inline void sincoss(float x, float* s, float* c) {
         *c = static_cast<float>(cos(static_cast<double>(x)));
         return;
     }
-    const float kf = __builtin_roundevenf(x * C::twoOverPi) + 0.0f;  // -0 becomes +0
+    // A zero x gives r = +0 (kf may be -0); its sign is put back at the end.
+    const float kf = __builtin_roundevenf(x * C::twoOverPi);
     const int k = static_cast<int>(kf);
     float r = x - kf * C::c1;
     r = r - kf * C::c2;
     r = r - kf * C::c3;
     r = r - kf * C::c4;
+    // sin(r) = r + r z (s1 + s2 z + s3 z^2) and cos(r) = 1 + (z^2 (k1 + k2 z
+    // + k3 z^2) - z / 2), z = r^2; the terms of each sum are formed side by
+    // side, which keeps the chain of dependent operations short.
     const float z = r * r;
-    float ps = C::s3;
-    ps = ps * z + C::s2;
-    ps = ps * z + C::s1;
+    const float z2 = z * z;
+    const float ps = (C::s1 + C::s2 * z) + C::s3 * z2;
     const float sr = r + (r * z) * ps;
-    float pc = C::k3;
-    pc = pc * z + C::k2;
-    pc = pc * z + C::k1;
-    const float cr = ((pc * z) * z - 0.5f * z) + 1.0f;
+    const float pc = (C::k1 + C::k2 * z) + C::k3 * z2;
+    const float cr = (pc * z2 - 0.5f * z) + 1.0f;
     const float so = (k & 1) ? cr : sr, co = (k & 1) ? sr : cr;
-    *s = (k & 2) ? -so : so;
+    const float sv = (k & 2) ? -so : so;
+    *s = (x == 0.0f && signBit(x)) ? -sv : sv;
     *c = ((k + 1) & 2) ? -co : co;
 }
 
@@ -241,30 +243,27 @@ inline int sinCosOutOfRange(__m128 x0, __m128 x1) {
 // Valid for lanes in range; callers check sinCosOutOfRange first.
 inline void sincosv(__m128 x, __m128* s, __m128* c) {
     const SinCosLanes& V = *opaque(&kSinCosLanes);
-    const __m128 kf = _mm_add_ps(_mm_round_ps(_mm_mul_ps(x, V.twoOverPi()),
-                                              _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC),
-                                 _mm_setzero_ps());
+    const __m128 kf = _mm_round_ps(_mm_mul_ps(x, V.twoOverPi()), _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
     const __m128i k = _mm_cvtps_epi32(kf);
     __m128 r = _mm_sub_ps(x, _mm_mul_ps(kf, V.c1()));
     r = _mm_sub_ps(r, _mm_mul_ps(kf, V.c2()));
     r = _mm_sub_ps(r, _mm_mul_ps(kf, V.c3()));
     r = _mm_sub_ps(r, _mm_mul_ps(kf, V.c4()));
     const __m128 z = _mm_mul_ps(r, r);
-    __m128 ps = V.s3();
-    ps = _mm_add_ps(_mm_mul_ps(ps, z), V.s2());
-    ps = _mm_add_ps(_mm_mul_ps(ps, z), V.s1());
+    const __m128 z2 = _mm_mul_ps(z, z);
+    const __m128 ps = _mm_add_ps(_mm_add_ps(V.s1(), _mm_mul_ps(V.s2(), z)), _mm_mul_ps(V.s3(), z2));
     const __m128 sr = _mm_add_ps(r, _mm_mul_ps(_mm_mul_ps(r, z), ps));
-    __m128 pc = V.k3();
-    pc = _mm_add_ps(_mm_mul_ps(pc, z), V.k2());
-    pc = _mm_add_ps(_mm_mul_ps(pc, z), V.k1());
-    const __m128 cr = _mm_add_ps(_mm_sub_ps(_mm_mul_ps(_mm_mul_ps(pc, z), z), _mm_mul_ps(V.half(), z)), V.one());
+    const __m128 pc = _mm_add_ps(_mm_add_ps(V.k1(), _mm_mul_ps(V.k2(), z)), _mm_mul_ps(V.k3(), z2));
+    const __m128 cr = _mm_add_ps(_mm_sub_ps(_mm_mul_ps(pc, z2), _mm_mul_ps(V.half(), z)), V.one());
     // Bit 0 of k, moved to the sign bit, selects the swapped polynomials;
     // bit 1 of k (of k + 1 for the cosine, which is bit 1 of k flipped by
-    // bit 0) the negated result.
+    // bit 0) the negated result. A zero x passes its sign to the sine.
     const __m128 odd = _mm_castsi128_ps(_mm_slli_epi32(k, 31));
     const __m128 so = _mm_blendv_ps(sr, cr, odd), co = _mm_blendv_ps(cr, sr, odd);
-    const __m128 sFlip = _mm_castsi128_ps(_mm_and_si128(_mm_slli_epi32(k, 30), _mm_castps_si128(V.signMask())));
-    const __m128 cFlip = _mm_xor_ps(sFlip, odd);
+    const __m128 quadrant = _mm_castsi128_ps(_mm_and_si128(_mm_slli_epi32(k, 30), _mm_castps_si128(V.signMask())));
+    const __m128 zeroSign = _mm_and_ps(_mm_cmpeq_ps(x, _mm_setzero_ps()), _mm_and_ps(x, V.signMask()));
+    const __m128 sFlip = _mm_or_ps(quadrant, zeroSign);
+    const __m128 cFlip = _mm_xor_ps(quadrant, odd);
     *s = _mm_xor_ps(so, sFlip);
     *c = _mm_xor_ps(co, cFlip);
 }
