@@ -1,8 +1,9 @@
 // Loops over complex data in its two layouts (interleaved re, im pairs, or
 // two part vectors): conjugation, magnitude, phase and polar to Cartesian.
-// Each vector loop handles four elements per step and leaves the tail to the
-// scalar twin of the same element function, so every element gets the same
-// bits whichever path it took. In-place calls are safe: each step loads its
+// Each vector loop handles groups of four elements (several groups per step
+// where the chain of one group is long) and leaves the tail to the scalar
+// twin of the same element function, so every element gets the same bits
+// whichever path it took. In-place calls are safe: each step loads its
 // elements before it stores them.
 #pragma once
 
