@@ -1,8 +1,9 @@
 // Phase: atan2(im, re) in radians.
 //
 // Single-precision sources use the four-lane atan2 kernel (at most 2 ulp);
-// double sources the C library's atan2; 16-bit sources the double-precision
-// atan2 of the exact parts, rounded once to single.
+// double sources the double-precision atan2d (at most 2 ulp, the same bits
+// on every target); 16-bit sources atan2d of the exact parts, rounded once
+// to single.
 //
 // Scaled 16-bit results follow their own rule:
 //   scaleFactor 2 or more: zeros (every angle times 1/4 and more is taken
@@ -19,6 +20,7 @@
 
 #include "convert/complex_access.h"
 #include "frame/detail/rounding.h"
+#include "kernels/math_f64.h"
 
 namespace veks {
 namespace {
@@ -30,11 +32,11 @@ struct Phase32f {
     }
 };
 
-struct Phase64f : ElementOp<Phase64f> {
-    static T64f apply(T64f re, T64f im) { return atan2(im, re); }
-};
+inline double angle(double re, double im) { return kern::atan2d(im, re); }
 
-inline double angle(double re, double im) { return atan2(im, re); }
+struct Phase64f : ElementOp<Phase64f> {
+    static T64f apply(T64f re, T64f im) { return angle(re, im); }
+};
 
 struct Phase16s32f : ElementOp<Phase16s32f> {
     static T32f apply(T16s re, T16s im) { return static_cast<T32f>(angle(re, im)); }

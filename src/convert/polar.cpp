@@ -9,8 +9,9 @@
 //
 // PolarToCart computes magn * cos(phase) and magn * sin(phase). Single
 // precision uses the four-lane sine and cosine kernel and one rounded product
-// per part; double precision the C library. Integer members work in double
-// precision and round to nearest with ties to even, saturated:
+// per part; double precision the double-precision sincosd (the same bits on
+// every target). Integer members work in double precision and round to
+// nearest with ties to even, saturated:
 //   _32sc: T32s phases are radians;
 //   _16sc: T16s phases are fixed-point radians with phaseFixedPoint fraction
 //          bits (times 2^-phaseFixedPoint); 16 or more fraction bits are
@@ -22,6 +23,7 @@
 
 #include "convert/complex_access.h"
 #include "frame/detail/rounding.h"
+#include "kernels/math_f64.h"
 
 // ---- CartToPolar ----------------------------------------------------------------
 
@@ -93,8 +95,10 @@ VekResult polarToCartFloat(const B* pSrcMagn, const B* pSrcPhase, const Dst& dst
         kern::polarToCart32f(pSrcMagn, pSrcPhase, dst, n);
     } else {
         for (size_t i = 0; i < n; ++i) {
-            const B m = pSrcMagn[i], ph = pSrcPhase[i];
-            dst.store(i, m * cos(ph), m * sin(ph));
+            double s, c;
+            kern::sincosd(pSrcPhase[i], &s, &c);
+            const B m = pSrcMagn[i];
+            dst.store(i, m * c, m * s);
         }
     }
     return VEK_OK;
@@ -111,8 +115,10 @@ void polarToCartInt(const TIn* pMagn, const TIn* pPhase, TOut* pDst, size_t n, i
     for (size_t i = 0; i < n; ++i) {
         const double ph = ldexp(static_cast<double>(pPhase[i]), -shift);
         const double m = static_cast<double>(pMagn[i]);
-        pDst[i].re = roundSat<B>(m * cos(ph), VEK_ROUND_NEAR, magnShift);
-        pDst[i].im = roundSat<B>(m * sin(ph), VEK_ROUND_NEAR, magnShift);
+        double s, c;
+        kern::sincosd(ph, &s, &c);
+        pDst[i].re = roundSat<B>(m * c, VEK_ROUND_NEAR, magnShift);
+        pDst[i].im = roundSat<B>(m * s, VEK_ROUND_NEAR, magnShift);
     }
 }
 

@@ -11,14 +11,16 @@
 //                    multiples of pi/4); NaN in, NaN out.
 //   sincosv / sincoss at most 2 ulp for |x| <= kSinCosLimit (reduction by
 //                    pi/2 in four parts, exact products); beyond it, and for
-//                    infinities and NaN, the lanes take the C library's
-//                    double-precision sin and cos rounded to single.
+//                    infinities and NaN, the lanes take the double-precision
+//                    sincosd of math_f64.h rounded to single.
 #pragma once
 
 #include <math.h>
 #include <smmintrin.h>
 #include <stdint.h>
 #include <string.h>
+
+#include "kernels/math_f64.h"
 
 namespace veks {
 namespace kern {
@@ -199,8 +201,10 @@ inline bool sinCosInRange(float x) { return fabsf(x) <= kSinCosLimit; }
 inline void sincoss(float x, float* s, float* c) {
     using C = SinCosConsts;
     if (!sinCosInRange(x)) {
-        *s = static_cast<float>(sin(static_cast<double>(x)));
-        *c = static_cast<float>(cos(static_cast<double>(x)));
+        double sd, cd;
+        sincosd(static_cast<double>(x), &sd, &cd);
+        *s = static_cast<float>(sd);
+        *c = static_cast<float>(cd);
         return;
     }
     // A zero x gives r = +0 (kf may be -0); its sign is put back at the end.
