@@ -428,6 +428,68 @@ VEKS_API VekResult veksSub_8u_Sfs(const T8u* pSrc1, const T8u* pSrc2, T8u* pDst,
 
 /* ---- arithmetic: logic and shifts --------------------------------------- */
 /* (section: logic) */
+VEKS_API VekResult veksAndC_16u(const T16u* pSrc, T16u val, T16u* pDst, int len);
+VEKS_API VekResult veksAndC_16u_I(T16u val, T16u* pSrcDst, int len);
+VEKS_API VekResult veksAndC_32u(const T32u* pSrc, T32u val, T32u* pDst, int len);
+VEKS_API VekResult veksAndC_32u_I(T32u val, T32u* pSrcDst, int len);
+VEKS_API VekResult veksAndC_8u(const T8u* pSrc, T8u val, T8u* pDst, int len);
+VEKS_API VekResult veksAndC_8u_I(T8u val, T8u* pSrcDst, int len);
+VEKS_API VekResult veksAnd_16u(const T16u* pSrc1, const T16u* pSrc2, T16u* pDst, int len);
+VEKS_API VekResult veksAnd_16u_I(const T16u* pSrc, T16u* pSrcDst, int len);
+VEKS_API VekResult veksAnd_32u(const T32u* pSrc1, const T32u* pSrc2, T32u* pDst, int len);
+VEKS_API VekResult veksAnd_32u_I(const T32u* pSrc, T32u* pSrcDst, int len);
+VEKS_API VekResult veksAnd_8u(const T8u* pSrc1, const T8u* pSrc2, T8u* pDst, int len);
+VEKS_API VekResult veksAnd_8u_I(const T8u* pSrc, T8u* pSrcDst, int len);
+VEKS_API VekResult veksLShiftC_16s(const T16s* pSrc, int val, T16s* pDst, int len);
+VEKS_API VekResult veksLShiftC_16s_I(int val, T16s* pSrcDst, int len);
+VEKS_API VekResult veksLShiftC_16u(const T16u* pSrc, int val, T16u* pDst, int len);
+VEKS_API VekResult veksLShiftC_16u_I(int val, T16u* pSrcDst, int len);
+VEKS_API VekResult veksLShiftC_32s(const T32s* pSrc, int val, T32s* pDst, int len);
+VEKS_API VekResult veksLShiftC_32s_I(int val, T32s* pSrcDst, int len);
+VEKS_API VekResult veksLShiftC_32u(const T32u* pSrc, int val, T32u* pDst, int len);
+VEKS_API VekResult veksLShiftC_32u_I(int val, T32u* pSrcDst, int len);
+VEKS_API VekResult veksLShiftC_8u(const T8u* pSrc, int val, T8u* pDst, int len);
+VEKS_API VekResult veksLShiftC_8u_I(int val, T8u* pSrcDst, int len);
+VEKS_API VekResult veksNot_16u(const T16u* pSrc, T16u* pDst, int len);
+VEKS_API VekResult veksNot_16u_I(T16u* pSrcDst, int len);
+VEKS_API VekResult veksNot_32u(const T32u* pSrc, T32u* pDst, int len);
+VEKS_API VekResult veksNot_32u_I(T32u* pSrcDst, int len);
+VEKS_API VekResult veksNot_8u(const T8u* pSrc, T8u* pDst, int len);
+VEKS_API VekResult veksNot_8u_I(T8u* pSrcDst, int len);
+VEKS_API VekResult veksOrC_16u(const T16u* pSrc, T16u val, T16u* pDst, int len);
+VEKS_API VekResult veksOrC_16u_I(T16u val, T16u* pSrcDst, int len);
+VEKS_API VekResult veksOrC_32u(const T32u* pSrc, T32u val, T32u* pDst, int len);
+VEKS_API VekResult veksOrC_32u_I(T32u val, T32u* pSrcDst, int len);
+VEKS_API VekResult veksOrC_8u(const T8u* pSrc, T8u val, T8u* pDst, int len);
+VEKS_API VekResult veksOrC_8u_I(T8u val, T8u* pSrcDst, int len);
+VEKS_API VekResult veksOr_16u(const T16u* pSrc1, const T16u* pSrc2, T16u* pDst, int len);
+VEKS_API VekResult veksOr_16u_I(const T16u* pSrc, T16u* pSrcDst, int len);
+VEKS_API VekResult veksOr_32u(const T32u* pSrc1, const T32u* pSrc2, T32u* pDst, int len);
+VEKS_API VekResult veksOr_32u_I(const T32u* pSrc, T32u* pSrcDst, int len);
+VEKS_API VekResult veksOr_8u(const T8u* pSrc1, const T8u* pSrc2, T8u* pDst, int len);
+VEKS_API VekResult veksOr_8u_I(const T8u* pSrc, T8u* pSrcDst, int len);
+VEKS_API VekResult veksRShiftC_16s(const T16s* pSrc, int val, T16s* pDst, int len);
+VEKS_API VekResult veksRShiftC_16s_I(int val, T16s* pSrcDst, int len);
+VEKS_API VekResult veksRShiftC_16u(const T16u* pSrc, int val, T16u* pDst, int len);
+VEKS_API VekResult veksRShiftC_16u_I(int val, T16u* pSrcDst, int len);
+VEKS_API VekResult veksRShiftC_32s(const T32s* pSrc, int val, T32s* pDst, int len);
+VEKS_API VekResult veksRShiftC_32s_I(int val, T32s* pSrcDst, int len);
+VEKS_API VekResult veksRShiftC_32u(const T32u* pSrc, int val, T32u* pDst, int len);
+VEKS_API VekResult veksRShiftC_32u_I(int val, T32u* pSrcDst, int len);
+VEKS_API VekResult veksRShiftC_8u(const T8u* pSrc, int val, T8u* pDst, int len);
+VEKS_API VekResult veksRShiftC_8u_I(int val, T8u* pSrcDst, int len);
+VEKS_API VekResult veksXorC_16u(const T16u* pSrc, T16u val, T16u* pDst, int len);
+VEKS_API VekResult veksXorC_16u_I(T16u val, T16u* pSrcDst, int len);
+VEKS_API VekResult veksXorC_32u(const T32u* pSrc, T32u val, T32u* pDst, int len);
+VEKS_API VekResult veksXorC_32u_I(T32u val, T32u* pSrcDst, int len);
+VEKS_API VekResult veksXorC_8u(const T8u* pSrc, T8u val, T8u* pDst, int len);
+VEKS_API VekResult veksXorC_8u_I(T8u val, T8u* pSrcDst, int len);
+VEKS_API VekResult veksXor_16u(const T16u* pSrc1, const T16u* pSrc2, T16u* pDst, int len);
+VEKS_API VekResult veksXor_16u_I(const T16u* pSrc, T16u* pSrcDst, int len);
+VEKS_API VekResult veksXor_32u(const T32u* pSrc1, const T32u* pSrc2, T32u* pDst, int len);
+VEKS_API VekResult veksXor_32u_I(const T32u* pSrc, T32u* pSrcDst, int len);
+VEKS_API VekResult veksXor_8u(const T8u* pSrc1, const T8u* pSrc2, T8u* pDst, int len);
+VEKS_API VekResult veksXor_8u_I(const T8u* pSrc, T8u* pSrcDst, int len);
 
 /* ---- set, zero, copy, move ---------------------------------------------- */
 /* (section: init) */
