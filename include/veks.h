@@ -277,6 +277,14 @@ VEKS_API VekResult veksAddC_64s_Sfs(const T64s* pSrc, T64s val, T64s* pDst, int 
 VEKS_API VekResult veksAddC_64u_Sfs(const T64u* pSrc, T64u val, T64u* pDst, int len, int scaleFactor);
 VEKS_API VekResult veksAddC_8u_ISfs(T8u val, T8u* pSrcDst, int len, int scaleFactor);
 VEKS_API VekResult veksAddC_8u_Sfs(const T8u* pSrc, T8u val, T8u* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksAddProductC_32f(const T32f* pSrc, T32f val, T32f* pSrcDst, int len);
+VEKS_API VekResult veksAddProduct_16s32s_Sfs(const T16s* pSrc1, const T16s* pSrc2, T32s* pSrcDst, int len, int scaleFactor);
+VEKS_API VekResult veksAddProduct_16s_Sfs(const T16s* pSrc1, const T16s* pSrc2, T16s* pSrcDst, int len, int scaleFactor);
+VEKS_API VekResult veksAddProduct_32f(const T32f* pSrc1, const T32f* pSrc2, T32f* pSrcDst, int len);
+VEKS_API VekResult veksAddProduct_32fc(const T32fc* pSrc1, const T32fc* pSrc2, T32fc* pSrcDst, int len);
+VEKS_API VekResult veksAddProduct_32s_Sfs(const T32s* pSrc1, const T32s* pSrc2, T32s* pSrcDst, int len, int scaleFactor);
+VEKS_API VekResult veksAddProduct_64f(const T64f* pSrc1, const T64f* pSrc2, T64f* pSrcDst, int len);
+VEKS_API VekResult veksAddProduct_64fc(const T64fc* pSrc1, const T64fc* pSrc2, T64fc* pSrcDst, int len);
 VEKS_API VekResult veksAdd_16s(const T16s* pSrc1, const T16s* pSrc2, T16s* pDst, int len);
 VEKS_API VekResult veksAdd_16s32f(const T16s* pSrc1, const T16s* pSrc2, T32f* pDst, int len);
 VEKS_API VekResult veksAdd_16s32s_I(const T16s* pSrc, T32s* pSrcDst, int len);

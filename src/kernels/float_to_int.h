@@ -16,7 +16,8 @@ namespace kern {
 // double, rounding and saturation (NaN gives 0).
 inline T16s mulScaleRound16s(T32f x, T32f val, int sf) {
     const float p = x * val;
-    return saturateIntegral<T16s>(__builtin_roundeven(ldexp(static_cast<double>(p), -sf)));
+    const int k = sf < -4000 ? 4000 : sf > 4000 ? -4000 : -sf;  // beyond, every value is 0 or infinite
+    return saturateIntegral<T16s>(__builtin_roundeven(ldexp(static_cast<double>(p), k)));
 }
 
 inline void mulScaleRound16sScalar(const T32f* s, T32f val, T16s* d, int n, int sf) {
