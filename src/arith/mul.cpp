@@ -88,12 +88,23 @@ VEKS_EXPORT VekResult veksMulC_Low_32f16s(const T32f* pSrc, T32f val, T16s* pDst
     return VEK_OK;
 }
 
+namespace {
+// A 64-bit integer to double with one rounding by the SSE setting: both
+// halves convert exactly and their sum rounds once. (A plain conversion on
+// 32-bit x86 goes through the x87 unit and its own rounding setting.)
+inline double toDouble(T64s x) {
+    const double hi = static_cast<double>(static_cast<int32_t>(x >> 32)) * 4294967296.0;
+    const double lo = static_cast<double>(static_cast<uint32_t>(x));
+    return hi + lo;
+}
+}  // namespace
+
 // element (converted to double) * val * 2^-scaleFactor, rounded to nearest
 // even under a forced rounding setting, saturated to T64s.
 VEKS_EXPORT VekResult veksMulC_64f64s_ISfs(T64f val, T64s* pSrcDst, int len, int scaleFactor) {
     if (const VekResult st = checkPtrsLen(len, pSrcDst)) return st;
     const RoundingGuard nearest(RoundingGuard::Nearest);
     for (int i = 0; i < len; ++i)
-        pSrcDst[i] = roundSat<T64s>(static_cast<double>(pSrcDst[i]) * val, VEK_ROUND_NEAR, scaleFactor);
+        pSrcDst[i] = roundSat<T64s>(toDouble(pSrcDst[i]) * val, VEK_ROUND_NEAR, scaleFactor);
     return VEK_OK;
 }
