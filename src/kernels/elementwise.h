@@ -8,6 +8,7 @@
 #pragma once
 
 #include <emmintrin.h>
+#include <math.h>
 #include <smmintrin.h>
 #include <stdint.h>
 
@@ -137,6 +138,64 @@ inline void narrowLoopK(S1 a, S2 b, TD* d, int n, int sf) {
     for (; i < n; ++i) d[i] = scaleSat<TD>(Op::i(at(a, i), at(b, i)), sf);
 }
 
+// ---- 32-bit integer results through double lanes ------------------------------
+//
+// When the exact value of the operation is below 2^53 in magnitude (a sum or
+// difference of 32-bit values, a product of 16-bit ones), the operation on
+// converted operands is exact in double, and so is the scaling by 2^-sf:
+// rounding to nearest even and clamping then give the rule's result.
+
+template <class T>
+struct ToDouble : std::integral_constant<bool, std::is_same<T, T32s>::value || std::is_same<T, T16s>::value> {};
+template <class S>
+struct DoubleLanes : std::false_type {};
+template <class T>
+struct DoubleLanes<Arr<T>> : ToDouble<T> {};
+template <class T>
+struct DoubleLanes<Bcast<T>> : ToDouble<T> {};
+template <class T>
+struct DoubleLanes<BcastPair<T>> : ToDouble<T> {};
+
+// Four elements from i as two pairs of doubles.
+struct Doubles4 {
+    __m128d lo, hi;
+};
+inline Doubles4 dload4(Arr<T32s> s, int i) {
+    const __m128i v = sse::loadu(s.p + i);
+    return {_mm_cvtepi32_pd(v), _mm_cvtepi32_pd(_mm_srli_si128(v, 8))};
+}
+inline Doubles4 dload4(Arr<T16s> s, int i) {
+    const __m128i v = _mm_cvtepi16_epi32(sse::load64(s.p + i));
+    return {_mm_cvtepi32_pd(v), _mm_cvtepi32_pd(_mm_srli_si128(v, 8))};
+}
+template <class T>
+inline Doubles4 dload4(Bcast<T> s, int) {
+    const __m128d v = _mm_set1_pd(s.v);
+    return {v, v};
+}
+template <class T>
+inline Doubles4 dload4(BcastPair<T> s, int) {
+    const __m128d v = _mm_setr_pd(s.re, s.im);
+    return {v, v};
+}
+
+// Valid for -32 <= sf <= 60 (2^-sf and every scaled value stay normal).
+template <class Op, class S1, class S2>
+inline void int32ViaDouble(S1 a, S2 b, T32s* d, int n, int sf) {
+    const __m128d scale = _mm_set1_pd(ldexp(1.0, -sf));
+    const __m128d lo = _mm_set1_pd(-2147483648.0), hi = _mm_set1_pd(2147483647.0);
+    auto one = [&](__m128d x, __m128d y) {
+        const __m128d v = _mm_round_pd(_mm_mul_pd(Op::v(x, y), scale), _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
+        return _mm_cvtpd_epi32(_mm_max_pd(_mm_min_pd(v, hi), lo));
+    };
+    int i = 0;
+    for (; i + 4 <= n; i += 4) {
+        const Doubles4 x = dload4(a, i), y = dload4(b, i);
+        sse::storeu(d + i, _mm_unpacklo_epi64(one(x.lo, y.lo), one(x.hi, y.hi)));
+    }
+    for (; i < n; ++i) d[i] = scaleSat<T32s>(Op::i(at(a, i), at(b, i)), sf);
+}
+
 template <class Op, class TD, class S1, class S2>
 inline void intLoopScalar(S1 a, S2 b, TD* d, int n, int sf) {
     for (int i = 0; i < n; ++i) d[i] = scaleSat<TD>(Op::i(at(a, i), at(b, i)), sf);
@@ -144,6 +203,10 @@ inline void intLoopScalar(S1 a, S2 b, TD* d, int n, int sf) {
 
 template <class Op, class TD, class S1, class S2>
 inline void intLoop(S1 a, S2 b, TD* d, int n, int sf) {
+    if constexpr (Op::kVecInt && std::is_same<TD, T32s>::value && DoubleLanes<S1>::value && DoubleLanes<S2>::value &&
+                  Op::magBits(8 * sizeof(typename S1::Elem) - 1, 8 * sizeof(typename S2::Elem) - 1) <= 52) {
+        if (sf >= -32 && sf <= 60) return int32ViaDouble<Op>(a, b, d, n, sf);
+    }
     if constexpr (Op::kVecInt && Narrow<TD>::value && Widens<S1>::value && Widens<S2>::value) {
         if (sse::LaneScale<TD, Op::kUnsignedLanes>::covers(sf)) {
             switch (sse::scaleKind(sf)) {

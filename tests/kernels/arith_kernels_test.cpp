@@ -95,6 +95,11 @@ TEST(ElementwiseKernels, IntegerVectorMatchesTwin) {
     intLoopAgrees<kern::MulRealOp, T16u, T16s, T16s>(6);
     intLoopAgrees<kern::MulRealOp, T8u, T8u, T16u>(7);
     intLoopAgrees<kern::MulRealOp, T8u, T8u, T8u>(8);
+    // 32-bit results through double lanes
+    intLoopAgrees<kern::AddOp, T32s, T32s, T32s>(9);
+    intLoopAgrees<kern::SubOp, T32s, T32s, T32s>(10);
+    intLoopAgrees<kern::SubRevOp, T32s, T32s, T32s>(11);
+    intLoopAgrees<kern::MulRealOp, T16s, T16s, T32s>(12);
 }
 
 template <class Op, class T>
