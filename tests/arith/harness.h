@@ -260,3 +260,22 @@ void contract(const Case<T1, T2, TD>& c) {
 }
 
 }  // namespace at
+
+// One table row per export: the shape's call and the element model (the
+// last argument). Used inside a visitor taking v(Case).
+#define AT_BIN(f, T1, T2, TD, ...) \
+    v(at::Case<T1, T2, TD>{#f, at::Shape::Binary, false, [](const T1* x1, T2* x2, TD* d, T2, int n, int) { return f(x1, x2, d, n); }, __VA_ARGS__})
+#define AT_BIN_SFS(f, T1, T2, TD, ...) \
+    v(at::Case<T1, T2, TD>{#f, at::Shape::Binary, true, [](const T1* x1, T2* x2, TD* d, T2, int n, int sf) { return f(x1, x2, d, n, sf); }, __VA_ARGS__})
+#define AT_BIN_I(f, T1, TD, ...) \
+    v(at::Case<T1, TD, TD>{#f, at::Shape::BinaryInPlace, false, [](const T1* x1, TD* x2, TD*, TD, int n, int) { return f(x1, x2, n); }, __VA_ARGS__})
+#define AT_BIN_I_SFS(f, T1, TD, ...) \
+    v(at::Case<T1, TD, TD>{#f, at::Shape::BinaryInPlace, true, [](const T1* x1, TD* x2, TD*, TD, int n, int sf) { return f(x1, x2, n, sf); }, __VA_ARGS__})
+#define AT_C(f, T, TD, ...) \
+    v(at::Case<T, T, TD>{#f, at::Shape::Const, false, [](const T* x1, T*, TD* d, T k, int n, int) { return f(x1, k, d, n); }, __VA_ARGS__})
+#define AT_C_SFS(f, T, TD, ...) \
+    v(at::Case<T, T, TD>{#f, at::Shape::Const, true, [](const T* x1, T*, TD* d, T k, int n, int sf) { return f(x1, k, d, n, sf); }, __VA_ARGS__})
+#define AT_C_I(f, T, ...) \
+    v(at::Case<T, T, T>{#f, at::Shape::ConstInPlace, false, [](const T* x1, T*, T*, T k, int n, int) { return f(k, const_cast<T*>(x1), n); }, __VA_ARGS__})
+#define AT_C_I_SFS(f, T, ...) \
+    v(at::Case<T, T, T>{#f, at::Shape::ConstInPlace, true, [](const T* x1, T*, T*, T k, int n, int sf) { return f(k, const_cast<T*>(x1), n, sf); }, __VA_ARGS__})

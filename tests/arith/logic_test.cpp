@@ -3,138 +3,60 @@
 
 namespace {
 
-using at::Shape;
-template <class T1, class T2, class TD>
-using C = at::Case<T1, T2, TD>;
+// Not in the constant shapes, its constant unused.
+template <class T, VekResult (*F)(const T*, T*, int)>
+VekResult notOut(const T* s, T, T* d, int n) {
+    return F(s, d, n);
+}
+template <class T, VekResult (*F)(T*, int)>
+VekResult notIn(T, T* sd, int n) {
+    return F(sd, n);
+}
 
 template <class V>
 void visitLogic(V&& v) {
-    v(C<T8u, T8u, T8u>{"veksAnd_8u", Shape::Binary, false,
-        [](const T8u* x1, T8u* x2, T8u* d, T8u, int n, int) { return veksAnd_8u(x1, x2, d, n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 & x2); }});
-    v(C<T8u, T8u, T8u>{"veksAnd_8u_I", Shape::BinaryInPlace, false,
-        [](const T8u* x1, T8u* x2, T8u*, T8u, int n, int) { return veksAnd_8u_I(x1, x2, n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 & x2); }});
-    v(C<T16u, T16u, T16u>{"veksAnd_16u", Shape::Binary, false,
-        [](const T16u* x1, T16u* x2, T16u* d, T16u, int n, int) { return veksAnd_16u(x1, x2, d, n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 & x2); }});
-    v(C<T16u, T16u, T16u>{"veksAnd_16u_I", Shape::BinaryInPlace, false,
-        [](const T16u* x1, T16u* x2, T16u*, T16u, int n, int) { return veksAnd_16u_I(x1, x2, n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 & x2); }});
-    v(C<T32u, T32u, T32u>{"veksAnd_32u", Shape::Binary, false,
-        [](const T32u* x1, T32u* x2, T32u* d, T32u, int n, int) { return veksAnd_32u(x1, x2, d, n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 & x2); }});
-    v(C<T32u, T32u, T32u>{"veksAnd_32u_I", Shape::BinaryInPlace, false,
-        [](const T32u* x1, T32u* x2, T32u*, T32u, int n, int) { return veksAnd_32u_I(x1, x2, n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 & x2); }});
-    v(C<T8u, T8u, T8u>{"veksAndC_8u", Shape::Const, false,
-        [](const T8u* x1, T8u*, T8u* d, T8u k, int n, int) { return veksAndC_8u(x1, k, d, n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 & x2); }});
-    v(C<T8u, T8u, T8u>{"veksAndC_8u_I", Shape::ConstInPlace, false,
-        [](const T8u* x1, T8u*, T8u*, T8u k, int n, int) { return veksAndC_8u_I(k, const_cast<T8u*>(x1), n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 & x2); }});
-    v(C<T16u, T16u, T16u>{"veksAndC_16u", Shape::Const, false,
-        [](const T16u* x1, T16u*, T16u* d, T16u k, int n, int) { return veksAndC_16u(x1, k, d, n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 & x2); }});
-    v(C<T16u, T16u, T16u>{"veksAndC_16u_I", Shape::ConstInPlace, false,
-        [](const T16u* x1, T16u*, T16u*, T16u k, int n, int) { return veksAndC_16u_I(k, const_cast<T16u*>(x1), n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 & x2); }});
-    v(C<T32u, T32u, T32u>{"veksAndC_32u", Shape::Const, false,
-        [](const T32u* x1, T32u*, T32u* d, T32u k, int n, int) { return veksAndC_32u(x1, k, d, n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 & x2); }});
-    v(C<T32u, T32u, T32u>{"veksAndC_32u_I", Shape::ConstInPlace, false,
-        [](const T32u* x1, T32u*, T32u*, T32u k, int n, int) { return veksAndC_32u_I(k, const_cast<T32u*>(x1), n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 & x2); }});
-    v(C<T8u, T8u, T8u>{"veksOr_8u", Shape::Binary, false,
-        [](const T8u* x1, T8u* x2, T8u* d, T8u, int n, int) { return veksOr_8u(x1, x2, d, n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 | x2); }});
-    v(C<T8u, T8u, T8u>{"veksOr_8u_I", Shape::BinaryInPlace, false,
-        [](const T8u* x1, T8u* x2, T8u*, T8u, int n, int) { return veksOr_8u_I(x1, x2, n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 | x2); }});
-    v(C<T16u, T16u, T16u>{"veksOr_16u", Shape::Binary, false,
-        [](const T16u* x1, T16u* x2, T16u* d, T16u, int n, int) { return veksOr_16u(x1, x2, d, n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 | x2); }});
-    v(C<T16u, T16u, T16u>{"veksOr_16u_I", Shape::BinaryInPlace, false,
-        [](const T16u* x1, T16u* x2, T16u*, T16u, int n, int) { return veksOr_16u_I(x1, x2, n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 | x2); }});
-    v(C<T32u, T32u, T32u>{"veksOr_32u", Shape::Binary, false,
-        [](const T32u* x1, T32u* x2, T32u* d, T32u, int n, int) { return veksOr_32u(x1, x2, d, n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 | x2); }});
-    v(C<T32u, T32u, T32u>{"veksOr_32u_I", Shape::BinaryInPlace, false,
-        [](const T32u* x1, T32u* x2, T32u*, T32u, int n, int) { return veksOr_32u_I(x1, x2, n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 | x2); }});
-    v(C<T8u, T8u, T8u>{"veksOrC_8u", Shape::Const, false,
-        [](const T8u* x1, T8u*, T8u* d, T8u k, int n, int) { return veksOrC_8u(x1, k, d, n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 | x2); }});
-    v(C<T8u, T8u, T8u>{"veksOrC_8u_I", Shape::ConstInPlace, false,
-        [](const T8u* x1, T8u*, T8u*, T8u k, int n, int) { return veksOrC_8u_I(k, const_cast<T8u*>(x1), n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 | x2); }});
-    v(C<T16u, T16u, T16u>{"veksOrC_16u", Shape::Const, false,
-        [](const T16u* x1, T16u*, T16u* d, T16u k, int n, int) { return veksOrC_16u(x1, k, d, n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 | x2); }});
-    v(C<T16u, T16u, T16u>{"veksOrC_16u_I", Shape::ConstInPlace, false,
-        [](const T16u* x1, T16u*, T16u*, T16u k, int n, int) { return veksOrC_16u_I(k, const_cast<T16u*>(x1), n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 | x2); }});
-    v(C<T32u, T32u, T32u>{"veksOrC_32u", Shape::Const, false,
-        [](const T32u* x1, T32u*, T32u* d, T32u k, int n, int) { return veksOrC_32u(x1, k, d, n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 | x2); }});
-    v(C<T32u, T32u, T32u>{"veksOrC_32u_I", Shape::ConstInPlace, false,
-        [](const T32u* x1, T32u*, T32u*, T32u k, int n, int) { return veksOrC_32u_I(k, const_cast<T32u*>(x1), n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 | x2); }});
-    v(C<T8u, T8u, T8u>{"veksXor_8u", Shape::Binary, false,
-        [](const T8u* x1, T8u* x2, T8u* d, T8u, int n, int) { return veksXor_8u(x1, x2, d, n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 ^ x2); }});
-    v(C<T8u, T8u, T8u>{"veksXor_8u_I", Shape::BinaryInPlace, false,
-        [](const T8u* x1, T8u* x2, T8u*, T8u, int n, int) { return veksXor_8u_I(x1, x2, n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 ^ x2); }});
-    v(C<T16u, T16u, T16u>{"veksXor_16u", Shape::Binary, false,
-        [](const T16u* x1, T16u* x2, T16u* d, T16u, int n, int) { return veksXor_16u(x1, x2, d, n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 ^ x2); }});
-    v(C<T16u, T16u, T16u>{"veksXor_16u_I", Shape::BinaryInPlace, false,
-        [](const T16u* x1, T16u* x2, T16u*, T16u, int n, int) { return veksXor_16u_I(x1, x2, n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 ^ x2); }});
-    v(C<T32u, T32u, T32u>{"veksXor_32u", Shape::Binary, false,
-        [](const T32u* x1, T32u* x2, T32u* d, T32u, int n, int) { return veksXor_32u(x1, x2, d, n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 ^ x2); }});
-    v(C<T32u, T32u, T32u>{"veksXor_32u_I", Shape::BinaryInPlace, false,
-        [](const T32u* x1, T32u* x2, T32u*, T32u, int n, int) { return veksXor_32u_I(x1, x2, n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 ^ x2); }});
-    v(C<T8u, T8u, T8u>{"veksXorC_8u", Shape::Const, false,
-        [](const T8u* x1, T8u*, T8u* d, T8u k, int n, int) { return veksXorC_8u(x1, k, d, n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 ^ x2); }});
-    v(C<T8u, T8u, T8u>{"veksXorC_8u_I", Shape::ConstInPlace, false,
-        [](const T8u* x1, T8u*, T8u*, T8u k, int n, int) { return veksXorC_8u_I(k, const_cast<T8u*>(x1), n); },
-        [](T8u x1, T8u x2, int) { return T8u(x1 ^ x2); }});
-    v(C<T16u, T16u, T16u>{"veksXorC_16u", Shape::Const, false,
-        [](const T16u* x1, T16u*, T16u* d, T16u k, int n, int) { return veksXorC_16u(x1, k, d, n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 ^ x2); }});
-    v(C<T16u, T16u, T16u>{"veksXorC_16u_I", Shape::ConstInPlace, false,
-        [](const T16u* x1, T16u*, T16u*, T16u k, int n, int) { return veksXorC_16u_I(k, const_cast<T16u*>(x1), n); },
-        [](T16u x1, T16u x2, int) { return T16u(x1 ^ x2); }});
-    v(C<T32u, T32u, T32u>{"veksXorC_32u", Shape::Const, false,
-        [](const T32u* x1, T32u*, T32u* d, T32u k, int n, int) { return veksXorC_32u(x1, k, d, n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 ^ x2); }});
-    v(C<T32u, T32u, T32u>{"veksXorC_32u_I", Shape::ConstInPlace, false,
-        [](const T32u* x1, T32u*, T32u*, T32u k, int n, int) { return veksXorC_32u_I(k, const_cast<T32u*>(x1), n); },
-        [](T32u x1, T32u x2, int) { return T32u(x1 ^ x2); }});
-    v(C<T8u, T8u, T8u>{"veksNot_8u", Shape::Const, false,
-        [](const T8u* x1, T8u*, T8u* d, T8u, int n, int) { return veksNot_8u(x1, d, n); },
-        [](T8u x1, T8u, int) { return T8u(~x1); }});
-    v(C<T8u, T8u, T8u>{"veksNot_8u_I", Shape::ConstInPlace, false,
-        [](const T8u* x1, T8u*, T8u*, T8u, int n, int) { return veksNot_8u_I(const_cast<T8u*>(x1), n); },
-        [](T8u x1, T8u, int) { return T8u(~x1); }});
-    v(C<T16u, T16u, T16u>{"veksNot_16u", Shape::Const, false,
-        [](const T16u* x1, T16u*, T16u* d, T16u, int n, int) { return veksNot_16u(x1, d, n); },
-        [](T16u x1, T16u, int) { return T16u(~x1); }});
-    v(C<T16u, T16u, T16u>{"veksNot_16u_I", Shape::ConstInPlace, false,
-        [](const T16u* x1, T16u*, T16u*, T16u, int n, int) { return veksNot_16u_I(const_cast<T16u*>(x1), n); },
-        [](T16u x1, T16u, int) { return T16u(~x1); }});
-    v(C<T32u, T32u, T32u>{"veksNot_32u", Shape::Const, false,
-        [](const T32u* x1, T32u*, T32u* d, T32u, int n, int) { return veksNot_32u(x1, d, n); },
-        [](T32u x1, T32u, int) { return T32u(~x1); }});
-    v(C<T32u, T32u, T32u>{"veksNot_32u_I", Shape::ConstInPlace, false,
-        [](const T32u* x1, T32u*, T32u*, T32u, int n, int) { return veksNot_32u_I(const_cast<T32u*>(x1), n); },
-        [](T32u x1, T32u, int) { return T32u(~x1); }});
+    AT_BIN(veksAnd_8u, T8u, T8u, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 & x2); });
+    AT_BIN_I(veksAnd_8u_I, T8u, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 & x2); });
+    AT_BIN(veksAnd_16u, T16u, T16u, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 & x2); });
+    AT_BIN_I(veksAnd_16u_I, T16u, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 & x2); });
+    AT_BIN(veksAnd_32u, T32u, T32u, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 & x2); });
+    AT_BIN_I(veksAnd_32u_I, T32u, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 & x2); });
+    AT_C(veksAndC_8u, T8u, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 & x2); });
+    AT_C_I(veksAndC_8u_I, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 & x2); });
+    AT_C(veksAndC_16u, T16u, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 & x2); });
+    AT_C_I(veksAndC_16u_I, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 & x2); });
+    AT_C(veksAndC_32u, T32u, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 & x2); });
+    AT_C_I(veksAndC_32u_I, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 & x2); });
+    AT_BIN(veksOr_8u, T8u, T8u, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 | x2); });
+    AT_BIN_I(veksOr_8u_I, T8u, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 | x2); });
+    AT_BIN(veksOr_16u, T16u, T16u, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 | x2); });
+    AT_BIN_I(veksOr_16u_I, T16u, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 | x2); });
+    AT_BIN(veksOr_32u, T32u, T32u, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 | x2); });
+    AT_BIN_I(veksOr_32u_I, T32u, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 | x2); });
+    AT_C(veksOrC_8u, T8u, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 | x2); });
+    AT_C_I(veksOrC_8u_I, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 | x2); });
+    AT_C(veksOrC_16u, T16u, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 | x2); });
+    AT_C_I(veksOrC_16u_I, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 | x2); });
+    AT_C(veksOrC_32u, T32u, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 | x2); });
+    AT_C_I(veksOrC_32u_I, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 | x2); });
+    AT_BIN(veksXor_8u, T8u, T8u, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 ^ x2); });
+    AT_BIN_I(veksXor_8u_I, T8u, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 ^ x2); });
+    AT_BIN(veksXor_16u, T16u, T16u, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 ^ x2); });
+    AT_BIN_I(veksXor_16u_I, T16u, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 ^ x2); });
+    AT_BIN(veksXor_32u, T32u, T32u, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 ^ x2); });
+    AT_BIN_I(veksXor_32u_I, T32u, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 ^ x2); });
+    AT_C(veksXorC_8u, T8u, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 ^ x2); });
+    AT_C_I(veksXorC_8u_I, T8u, [](T8u x1, T8u x2, int) { return T8u(x1 ^ x2); });
+    AT_C(veksXorC_16u, T16u, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 ^ x2); });
+    AT_C_I(veksXorC_16u_I, T16u, [](T16u x1, T16u x2, int) { return T16u(x1 ^ x2); });
+    AT_C(veksXorC_32u, T32u, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 ^ x2); });
+    AT_C_I(veksXorC_32u_I, T32u, [](T32u x1, T32u x2, int) { return T32u(x1 ^ x2); });
+    AT_C((notOut<T8u, veksNot_8u>), T8u, T8u, [](T8u x1, T8u, int) { return T8u(~x1); });
+    AT_C_I((notIn<T8u, veksNot_8u_I>), T8u, [](T8u x1, T8u, int) { return T8u(~x1); });
+    AT_C((notOut<T16u, veksNot_16u>), T16u, T16u, [](T16u x1, T16u, int) { return T16u(~x1); });
+    AT_C_I((notIn<T16u, veksNot_16u_I>), T16u, [](T16u x1, T16u, int) { return T16u(~x1); });
+    AT_C((notOut<T32u, veksNot_32u>), T32u, T32u, [](T32u x1, T32u, int) { return T32u(~x1); });
+    AT_C_I((notIn<T32u, veksNot_32u_I>), T32u, [](T32u x1, T32u, int) { return T32u(~x1); });
 }
 
 TEST(Logic, MatchesReference) {
