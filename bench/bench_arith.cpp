@@ -3,10 +3,14 @@
 // scale rule, and long vectors (4 Mi elements) beside memcpy of the same
 // memory traffic (bytes read plus bytes written).
 #include <limits.h>
+#include <math.h>
 #include <stdint.h>
 
 #include "bench_util.h"
 #include "veks.h"
+
+#include <limits>
+#include <type_traits>
 
 namespace {
 

@@ -18,19 +18,6 @@ inline VekResult warnIf(bool zeroDivisor) { return zeroDivisor ? VEK_WRN_DIV_BY_
 
 // ---- floating point -------------------------------------------------------------
 
-// dividend / divisor for complex values:
-// (n.re * d.re + n.im * d.im) / m and (n.im * d.re - n.re * d.im) / m with
-// m = d.re * d.re + d.im * d.im, in that order. A zero divisor gives the
-// IEEE results of dividing by m = 0.
-template <class C>
-inline C divComplex(C n, C d) {
-    const auto m = d.re * d.re + d.im * d.im;
-    C q;
-    q.re = (n.re * d.re + n.im * d.im) / m;
-    q.im = (n.im * d.re - n.re * d.im) / m;
-    return q;
-}
-
 template <class T>
 inline bool isZero(T v) {
     if constexpr (IsComplex<T>::value)
@@ -39,19 +26,10 @@ inline bool isZero(T v) {
         return v == 0;
 }
 
-// Full division element by element (double and complex types).
+// Full division (double and complex types).
 template <class TD, class SD, class SN>
 inline VekResult divideFull(SD divisor, SN dividend, TD* d, int n) {
-    bool z = false;
-    for (int i = 0; i < n; ++i) {
-        const TD a = at(divisor, i), b = at(dividend, i);
-        z |= isZero(a);
-        if constexpr (IsComplex<TD>::value)
-            d[i] = divComplex(b, a);
-        else
-            d[i] = b / a;
-    }
-    return warnIf(z);
+    return warnIf(kern::divideFullLoop(divisor, dividend, d, n));
 }
 
 template <class SD, class SN>

@@ -50,6 +50,20 @@ inline bool divide32fLoop(SD divisor, SN dividend, float* d, int n) {
     const __m128 zero = _mm_setzero_ps();
     int zeroMask = 0;
     int i = 0;
+    for (; i + 8 <= n; i += 8) {
+        const __m128 a0 = vload(divisor, i), b0 = vload(dividend, i);
+        const __m128 a1 = vload(divisor, i + 4), b1 = vload(dividend, i + 4);
+        const int z0 = _mm_movemask_ps(_mm_cmpeq_ps(a0, zero)), z1 = _mm_movemask_ps(_mm_cmpeq_ps(a1, zero));
+        if (z0 | z1) {
+            zeroMask |= z0 | z1;
+            _mm_storeu_ps(d + i, z0 ? _mm_div_ps(b0, a0) : refinedQuotient(b0, a0));
+            _mm_storeu_ps(d + i + 4, z1 ? _mm_div_ps(b1, a1) : refinedQuotient(b1, a1));
+        } else {
+            const __m128 q0 = refinedQuotient(b0, a0), q1 = refinedQuotient(b1, a1);
+            _mm_storeu_ps(d + i, q0);
+            _mm_storeu_ps(d + i + 4, q1);
+        }
+    }
     for (; i + 4 <= n; i += 4) {
         const __m128 a = vload(divisor, i), b = vload(dividend, i);
         const int z = _mm_movemask_ps(_mm_cmpeq_ps(a, zero));
@@ -64,6 +78,107 @@ inline bool divide32fLoop(SD divisor, SN dividend, float* d, int n) {
         zeroMask |= z;
     }
     return zeroMask != 0;
+}
+
+// ---- full division: double, and complex values ---------------------------------
+
+// dividend / divisor for complex values:
+// (n.re * d.re + n.im * d.im) / m and (n.im * d.re - n.re * d.im) / m with
+// m = d.re * d.re + d.im * d.im, in that order. A zero divisor gives the
+// IEEE results of dividing by m = 0.
+template <class C>
+inline C divComplex(C n, C d) {
+    const auto m = d.re * d.re + d.im * d.im;
+    C q;
+    q.re = (n.re * d.re + n.im * d.im) / m;
+    q.im = (n.im * d.re - n.re * d.im) / m;
+    return q;
+}
+
+// The same on two complex values of single precision (re, im, re, im).
+inline __m128 divComplex(__m128 n, __m128 d) {
+    const __m128 dd = _mm_mul_ps(d, d);
+    const __m128 m = _mm_add_ps(_mm_moveldup_ps(dd), _mm_movehdup_ps(dd));  // m, m per element
+    const __m128 dre = _mm_moveldup_ps(d), dim = _mm_movehdup_ps(d);
+    const __m128 nsw = _mm_shuffle_ps(n, n, _MM_SHUFFLE(2, 3, 0, 1));      // n.im, n.re
+    // re: n.re * d.re + n.im * d.im; im: n.im * d.re - n.re * d.im
+    const __m128 a = _mm_mul_ps(n, dre);                                  // n.re d.re, n.im d.re
+    const __m128 b = _mm_mul_ps(nsw, dim);                                // n.im d.im, n.re d.im
+    const __m128 sign = _mm_castsi128_ps(_mm_setr_epi32(0, int(0x80000000), 0, int(0x80000000)));
+    return _mm_div_ps(_mm_add_ps(a, _mm_xor_ps(b, sign)), m);
+}
+inline __m128d divComplex(__m128d n, __m128d d) {
+    const __m128d dd = _mm_mul_pd(d, d);
+    const __m128d m = _mm_add_pd(_mm_unpacklo_pd(dd, dd), _mm_unpackhi_pd(dd, dd));
+    const __m128d dre = _mm_unpacklo_pd(d, d), dim = _mm_unpackhi_pd(d, d);
+    const __m128d nsw = _mm_shuffle_pd(n, n, 1);
+    const __m128d a = _mm_mul_pd(n, dre);
+    const __m128d b = _mm_mul_pd(nsw, dim);
+    const __m128d sign = _mm_castsi128_pd(_mm_setr_epi32(0, 0, 0, int(0x80000000)));
+    return _mm_div_pd(_mm_add_pd(a, _mm_xor_pd(b, sign)), m);
+}
+
+inline bool zeroOf(double v) { return v == 0; }
+template <class C>
+inline bool zeroOf(C v) {
+    return v.re == 0 && v.im == 0;
+}
+inline int zeroLanes(__m128d d) { return _mm_movemask_pd(_mm_cmpeq_pd(d, _mm_setzero_pd())); }
+
+// d[i] = dividend[i] / divisor[i] for T64f, T32fc, T64fc; returns whether a
+// divisor was zero.
+template <class T, class SD, class SN>
+inline bool divideFullLoop(SD divisor, SN dividend, T* d, int n) {
+    constexpr int W = lanesOf<T>();
+    bool z = false;
+    int i = 0;
+    auto zeros = [](auto a) {
+        if constexpr (std::is_same<T, T64f>::value)
+            return zeroLanes(a) != 0;
+        else if constexpr (std::is_same<T, T64fc>::value)
+            return zeroLanes(a) == 3;
+        else {
+            const int m = _mm_movemask_ps(_mm_cmpeq_ps(a, _mm_setzero_ps()));
+            return (m & 3) == 3 || (m & 12) == 12;
+        }
+    };
+    auto quotient = [](auto b, auto a) {
+        if constexpr (std::is_same<T, T64f>::value)
+            return _mm_div_pd(b, a);
+        else
+            return divComplex(b, a);
+    };
+    for (; i + 2 * W <= n; i += 2 * W) {
+        const auto a0 = vload(divisor, i), b0 = vload(dividend, i);
+        const auto a1 = vload(divisor, i + W), b1 = vload(dividend, i + W);
+        z |= zeros(a0) | zeros(a1);
+        const auto q0 = quotient(b0, a0), q1 = quotient(b1, a1);
+        vstore(d + i, q0);
+        vstore(d + i + W, q1);
+    }
+    for (; i + W <= n; i += W) {
+        const auto a = vload(divisor, i), b = vload(dividend, i);
+        if constexpr (std::is_same<T, T64f>::value) {
+            z |= zeroLanes(a) != 0;
+            vstore(d + i, _mm_div_pd(b, a));
+        } else if constexpr (std::is_same<T, T64fc>::value) {
+            z |= zeroLanes(a) == 3;
+            vstore(d + i, divComplex(b, a));
+        } else {
+            const int m = _mm_movemask_ps(_mm_cmpeq_ps(a, _mm_setzero_ps()));
+            z |= (m & 3) == 3 || (m & 12) == 12;
+            vstore(d + i, divComplex(b, a));
+        }
+    }
+    for (; i < n; ++i) {
+        const T a = at(divisor, i), b = at(dividend, i);
+        z |= zeroOf(a);
+        if constexpr (std::is_same<T, T64f>::value)
+            d[i] = b / a;
+        else
+            d[i] = divComplex(b, a);
+    }
+    return z;
 }
 
 // ---- integers through single precision ------------------------------------------

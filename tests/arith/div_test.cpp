@@ -368,7 +368,7 @@ TEST(Div, C64sExactQuotient) {
             const int n = 37;
             std::vector<T64s> x = at::data<T64s>(rng, n);
             x[0] = v;      // quotient 1
-            x[1] = -v;     // and -1 (or saturation for the minimum)
+            x[1] = v == INT64_MIN ? INT64_MAX : -v;  // and about -1
             x[2] = v / 2;  // a half
             std::vector<T64s> want(n);
             for (int i = 0; i < n; ++i) want[i] = refDiv64(x[i], v, sf);
