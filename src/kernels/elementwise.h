@@ -15,6 +15,7 @@
 #include <type_traits>
 
 #include "frame/detail/scale.h"
+#include "kernels/arith_ops.h"
 #include "kernels/sse/scale.h"
 #include "kernels/sse/vocab.h"
 
@@ -196,6 +197,60 @@ inline void int32ViaDouble(S1 a, S2 b, T32s* d, int n, int sf) {
     for (; i < n; ++i) d[i] = scaleSat<T32s>(Op::i(at(a, i), at(b, i)), sf);
 }
 
+// ---- sums and differences without scaling: saturating instructions ---------------
+
+template <class T>
+inline __m128i splatBits(T v) {
+    if constexpr (sizeof(T) == 1)
+        return _mm_set1_epi8(static_cast<char>(v));
+    else
+        return _mm_set1_epi16(static_cast<short>(v));
+}
+template <class T> inline __m128i sload(Arr<T> s, int i) { return sse::loadu(s.p + i); }
+template <class T> inline __m128i sload(Bcast<T> s, int) { return splatBits(s.v); }
+inline __m128i sload(BcastPair<T16s> s, int) {
+    return _mm_set1_epi32(static_cast<int>(static_cast<uint32_t>(static_cast<uint16_t>(s.im)) << 16 |
+                                           static_cast<uint16_t>(s.re)));
+}
+
+template <class T>
+inline __m128i addSat(__m128i x, __m128i y) {
+    if constexpr (std::is_same<T, T16s>::value) return _mm_adds_epi16(x, y);
+    else if constexpr (std::is_same<T, T16u>::value) return _mm_adds_epu16(x, y);
+    else return _mm_adds_epu8(x, y);
+}
+template <class T>
+inline __m128i subSat(__m128i x, __m128i y) {  // x - y
+    if constexpr (std::is_same<T, T16s>::value) return _mm_subs_epi16(x, y);
+    else if constexpr (std::is_same<T, T16u>::value) return _mm_subs_epu16(x, y);
+    else return _mm_subs_epu8(x, y);
+}
+
+template <class Op, class T, class S1, class S2>
+inline void saturatingLoop(S1 a, S2 b, T* d, int n) {
+    constexpr int W = 16 / static_cast<int>(sizeof(T));
+    int i = 0;
+    for (; i + W <= n; i += W) {
+        const __m128i x = sload(a, i), y = sload(b, i);
+        if constexpr (std::is_same<Op, AddOp>::value) sse::storeu(d + i, addSat<T>(x, y));
+        else if constexpr (std::is_same<Op, SubOp>::value) sse::storeu(d + i, subSat<T>(y, x));
+        else sse::storeu(d + i, subSat<T>(x, y));
+    }
+    for (; i < n; ++i) d[i] = saturate<T>(Op::i(at(a, i), at(b, i)));
+}
+
+template <class Op, class TD, class S1, class S2>
+constexpr bool saturatingForm() {
+    using E1 = typename S1::Elem;
+    using E2 = typename S2::Elem;
+    constexpr bool sumOrDiff = std::is_same<Op, AddOp>::value || std::is_same<Op, SubOp>::value ||
+                               std::is_same<Op, SubRevOp>::value;
+    constexpr bool sameType = std::is_same<E1, TD>::value && std::is_same<E2, TD>::value && Narrow<TD>::value;
+    constexpr bool loads = Widens<S1>::value && Widens<S2>::value &&
+                           (!std::is_same<S2, BcastPair<TD>>::value || std::is_same<TD, T16s>::value);
+    return sumOrDiff && sameType && loads;
+}
+
 template <class Op, class TD, class S1, class S2>
 inline void intLoopScalar(S1 a, S2 b, TD* d, int n, int sf) {
     for (int i = 0; i < n; ++i) d[i] = scaleSat<TD>(Op::i(at(a, i), at(b, i)), sf);
@@ -206,6 +261,9 @@ inline void intLoop(S1 a, S2 b, TD* d, int n, int sf) {
     if constexpr (Op::kVecInt && std::is_same<TD, T32s>::value && DoubleLanes<S1>::value && DoubleLanes<S2>::value &&
                   Op::magBits(8 * sizeof(typename S1::Elem) - 1, 8 * sizeof(typename S2::Elem) - 1) <= 52) {
         if (sf >= -32 && sf <= 60) return int32ViaDouble<Op>(a, b, d, n, sf);
+    }
+    if constexpr (saturatingForm<Op, TD, S1, S2>()) {
+        if (sf == 0) return saturatingLoop<Op, TD>(a, b, d, n);
     }
     if constexpr (Op::kVecInt && Narrow<TD>::value && Widens<S1>::value && Widens<S2>::value) {
         if (sse::LaneScale<TD, Op::kUnsignedLanes>::covers(sf)) {
