@@ -103,7 +103,7 @@ void checkShift(const char* name, bool left, VekResult (*out)(const T*, int, T*,
     for (int k : counts) {
         for (int n : vt::tailLengths()) {
             if (n > 70 && k % 5) continue;
-            const int m = (k + n) % 4;
+            const int m = static_cast<int>((int64_t(k) + n) % 4);
             SCOPED_TRACE("count " + std::to_string(k) + " len " + std::to_string(n));
             const std::vector<T> x = at::data<T>(rng, n);
             std::vector<T> want(n);
