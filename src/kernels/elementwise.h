@@ -78,17 +78,35 @@ constexpr int lanesOf() {
 }
 
 // d[i] = Op(a[i], b[i]) for real values or complex elements.
+template <class S>
+struct Repeats : std::false_type {};
+template <class T>
+struct Repeats<Bcast<T>> : std::true_type {};
+template <class T>
+struct Repeats<BcastPair<T>> : std::true_type {};
+
 template <class Op, class T, class S1, class S2>
 inline void floatLoop(S1 a, S2 b, T* d, int n) {
     constexpr int W = lanesOf<T>();
     int i = 0;
-    for (; i + 2 * W <= n; i += 2 * W) {
-        const auto r0 = Op::v(vload(a, i), vload(b, i));
-        const auto r1 = Op::v(vload(a, i + W), vload(b, i + W));
-        vstore(d + i, r0);
-        vstore(d + i + W, r1);
+    if constexpr (Repeats<S2>::value) {
+        // a constant operand: prepared once for the whole loop
+        const auto y = Op::prepare(vload(b, 0));
+        for (; i + 2 * W <= n; i += 2 * W) {
+            const auto r0 = Op::withConst(vload(a, i), y), r1 = Op::withConst(vload(a, i + W), y);
+            vstore(d + i, r0);
+            vstore(d + i + W, r1);
+        }
+        for (; i + W <= n; i += W) vstore(d + i, Op::withConst(vload(a, i), y));
+    } else {
+        for (; i + 2 * W <= n; i += 2 * W) {
+            const auto r0 = Op::v(vload(a, i), vload(b, i));
+            const auto r1 = Op::v(vload(a, i + W), vload(b, i + W));
+            vstore(d + i, r0);
+            vstore(d + i + W, r1);
+        }
+        for (; i + W <= n; i += W) vstore(d + i, Op::v(vload(a, i), vload(b, i)));
     }
-    for (; i + W <= n; i += W) vstore(d + i, Op::v(vload(a, i), vload(b, i)));
     for (; i < n; ++i) d[i] = Op::s(at(a, i), at(b, i));
 }
 
