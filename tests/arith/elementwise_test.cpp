@@ -245,3 +245,46 @@ TEST(Elementwise, ChecksBeforeWriting) {
 }
 
 }  // namespace
+
+namespace {
+
+// A destination equal to a source runs the in-place form, before the null
+// tests: the product is the same either way round.
+TEST(Elementwise, ComplexProductWithAliasedDestination) {
+    const std::vector<T16sc> a = {{300, -7}, {-32768, -32768}, {5, 9}}, b = {{-2, 11}, {-32768, -32768}, {1, 1}};
+    std::vector<T16sc> want(3);
+    ASSERT_EQ(veksMul_16sc_Sfs(a.data(), b.data(), want.data(), 3, 2), VEK_OK);
+    std::vector<T16sc> d = a;
+    ASSERT_EQ(veksMul_16sc_Sfs(d.data(), b.data(), d.data(), 3, 2), VEK_OK);
+    EXPECT_TRUE(at::sameAll(d.data(), want));
+    d = b;
+    ASSERT_EQ(veksMul_16sc_Sfs(a.data(), d.data(), d.data(), 3, 2), VEK_OK);
+    EXPECT_TRUE(at::sameAll(d.data(), want));
+    d = b;
+    EXPECT_EQ(veksMul_16sc_Sfs(nullptr, d.data(), d.data(), 3, 2), VEK_ERR_NULL_POINTER);
+    EXPECT_EQ(veksMul_16sc_Sfs(a.data(), d.data(), d.data(), 0, 2), VEK_ERR_SIZE);
+    EXPECT_EQ(veksMul_16sc_Sfs(nullptr, nullptr, nullptr, 3, 2), VEK_ERR_NULL_POINTER);
+    EXPECT_TRUE(at::sameAll(d.data(), b));
+    // 2^31 as an exact imaginary part (every part -32768) saturates
+    EXPECT_EQ(want[1].im, 32767);
+}
+
+// The named values of the scale rule through the exports.
+TEST(Elementwise, NamedValues) {
+    const struct { T16s a, b; int sf; T16s add, sub; } cases[] = {
+        {1, 2, 1, 2, 0}, {2, 3, 1, 2, 0}, {-1, -2, 1, -2, 0}, {32767, 32767, 0, 32767, 0},
+        {5, 1, -20, 32767, -32768}, {0, 0, -20, 0, 0}, {-32768, -32768, 17, 0, 0}, {3, 8, 1, 6, 2}};
+    for (const auto& c : cases) {
+        T16s d = 0;
+        ASSERT_EQ(veksAdd_16s_Sfs(&c.a, &c.b, &d, 1, c.sf), VEK_OK);
+        EXPECT_EQ(d, c.add) << c.a << " + " << c.b << " sf " << c.sf;
+        ASSERT_EQ(veksSub_16s_Sfs(&c.a, &c.b, &d, 1, c.sf), VEK_OK);
+        EXPECT_EQ(d, c.sub) << c.b << " - " << c.a << " sf " << c.sf;
+    }
+    const T16s x = 300;
+    T16s d = 0;
+    ASSERT_EQ(veksMul_16s(&x, &x, &d, 1), VEK_OK);
+    EXPECT_EQ(d, 32767);
+}
+
+}  // namespace
