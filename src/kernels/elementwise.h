@@ -77,7 +77,7 @@ constexpr int lanesOf() {
     return 16 / static_cast<int>(sizeof(T));
 }
 
-// d[i] = Op(a[i], b[i]) for real values or complex elements.
+// Sources that repeat one value.
 template <class S>
 struct Repeats : std::false_type {};
 template <class T>
@@ -85,6 +85,7 @@ struct Repeats<Bcast<T>> : std::true_type {};
 template <class T>
 struct Repeats<BcastPair<T>> : std::true_type {};
 
+// d[i] = Op(a[i], b[i]) for real values or complex elements.
 template <class Op, class T, class S1, class S2>
 inline void floatLoop(S1 a, S2 b, T* d, int n) {
     constexpr int W = lanesOf<T>();
