@@ -53,7 +53,9 @@ inline TDst saturateIntegral(double v) {
 // x * 2^-sf, rounded by the mode, saturated.
 template <class TDst>
 inline TDst roundSat(double x, int rndMode, int sf = 0) {
-    return saturateIntegral<TDst>(roundByMode(sf ? ldexp(x, -sf) : x, rndMode));
+    // Beyond +-4000 places every double is 0 or infinite already.
+    const int k = sf < -4000 ? 4000 : sf > 4000 ? -4000 : -sf;
+    return saturateIntegral<TDst>(roundByMode(k ? ldexp(x, k) : x, rndMode));
 }
 
 // Float to integer as the conversions define it: x * 2^-sf, then a clamp

@@ -1,0 +1,215 @@
+// Arithmetic at n = 1024 beside the plain loop a compiler makes of the same
+// operation (-O3 -msse4.1), scaled integer forms beside a scalar loop of the
+// scale rule, and long vectors (4 Mi elements) beside memcpy of the same
+// memory traffic (bytes read plus bytes written).
+#include <limits.h>
+#include <math.h>
+#include <stdint.h>
+
+#include "bench_util.h"
+#include "veks.h"
+
+#include <limits>
+#include <type_traits>
+
+namespace {
+
+constexpr int kShort = 1024;
+constexpr int kLong = 4 << 20;
+
+template <class T>
+void fill(vb::Buf<T>& b, int salt) {
+    for (size_t i = 0; i < b.n; ++i) {
+        if constexpr (sizeof(T) == sizeof(T32fc) && !std::is_arithmetic<T>::value) {
+            b.p[i].re = float((i * 7 + salt) % 97) + 1.0f;
+            b.p[i].im = float((i * 3 + salt) % 89) + 1.0f;
+        } else if constexpr (std::is_same<T, T64fc>::value) {
+            b.p[i].re = double((i * 7 + salt) % 97) + 1.0;
+            b.p[i].im = double((i * 3 + salt) % 89) + 1.0;
+        } else {
+            b.p[i] = static_cast<T>((i * 7919 + salt) % 251 + 1);
+        }
+    }
+}
+
+// Two sources, one destination.
+template <class T, class F>
+void runBinary(benchmark::State& st, F f, int n) {
+    vb::Buf<T> a(n), b(n), d(n);
+    fill(a, 1);
+    fill(b, 2);
+    for (auto _ : st) {
+        f(a.p, b.p, d.p, n);
+        benchmark::ClobberMemory();
+    }
+    vb::setCounters(st, n, 2 * n * sizeof(T), n * sizeof(T));
+}
+
+// ---- plain loops: what -O3 makes of the obvious code ---------------------------
+
+void plainAdd32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] + b[i]; }
+void plainSub32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = b[i] - a[i]; }
+void plainMul32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] * b[i]; }
+void plainDiv32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = b[i] / a[i]; }
+void plainAddP32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = d[i] + a[i] * b[i]; }
+void plainAdd64f(const double* a, const double* b, double* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] + b[i]; }
+void plainMul64f(const double* a, const double* b, double* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] * b[i]; }
+void plainDiv64f(const double* a, const double* b, double* d, int n) { for (int i = 0; i < n; ++i) d[i] = b[i] / a[i]; }
+void plainAdd32fc(const T32fc* a, const T32fc* b, T32fc* d, int n) {
+    for (int i = 0; i < n; ++i) {
+        d[i].re = a[i].re + b[i].re;
+        d[i].im = a[i].im + b[i].im;
+    }
+}
+template <class C>
+void plainMulC(const C* a, const C* b, C* d, int n) {
+    for (int i = 0; i < n; ++i) {
+        const auto re = a[i].re * b[i].re - a[i].im * b[i].im;
+        const auto im = a[i].re * b[i].im + a[i].im * b[i].re;
+        d[i].re = re;
+        d[i].im = im;
+    }
+}
+template <class C>
+void plainDivC(const C* a, const C* b, C* d, int n) {
+    for (int i = 0; i < n; ++i) {
+        const auto m = a[i].re * a[i].re + a[i].im * a[i].im;
+        const auto re = (b[i].re * a[i].re + b[i].im * a[i].im) / m;
+        const auto im = (b[i].im * a[i].re - b[i].re * a[i].im) / m;
+        d[i].re = re;
+        d[i].im = im;
+    }
+}
+void plainAdd64fc(const T64fc* a, const T64fc* b, T64fc* d, int n) {
+    for (int i = 0; i < n; ++i) {
+        d[i].re = a[i].re + b[i].re;
+        d[i].im = a[i].im + b[i].im;
+    }
+}
+void plainAddC32f(const float* a, const float* b, float* d, int n) {
+    const float v = b[0];
+    for (int i = 0; i < n; ++i) d[i] = a[i] + v;
+}
+void plainMulC32f(const float* a, const float* b, float* d, int n) {
+    const float v = b[0];
+    for (int i = 0; i < n; ++i) d[i] = a[i] * v;
+}
+void plainMulC64f(const double* a, const double* b, double* d, int n) {
+    const double v = b[0];
+    for (int i = 0; i < n; ++i) d[i] = a[i] * v;
+}
+void plainMulCc32fc(const T32fc* a, const T32fc* b, T32fc* d, int n) {
+    const T32fc v = b[0];
+    for (int i = 0; i < n; ++i) {
+        const float re = a[i].re * v.re - a[i].im * v.im;
+        const float im = a[i].re * v.im + a[i].im * v.re;
+        d[i].re = re;
+        d[i].im = im;
+    }
+}
+
+// ---- scalar references of the scale rule (kept scalar on purpose) -------------
+
+#define SCALAR __attribute__((noinline, optimize("no-tree-vectorize")))
+
+template <class T>
+SCALAR T scaleRef(int64_t s, int sf, int64_t lo, int64_t hi) {
+    if (sf > 0) s = (s + (int64_t(1) << (sf - 1)) - 1 + ((s >> sf) & 1)) >> sf;
+    else if (sf < 0) s = s > (hi >> -sf) ? hi : s < (lo >> -sf) ? lo : s * (int64_t(1) << -sf);
+    return static_cast<T>(s < lo ? lo : s > hi ? hi : s);
+}
+
+template <class T, int Op>
+SCALAR void scalarScaled(const T* a, const T* b, T* d, int n, int sf) {
+    const int64_t lo = std::numeric_limits<T>::min(), hi = std::numeric_limits<T>::max();
+    for (int i = 0; i < n; ++i) {
+        const int64_t s = Op == 0 ? int64_t(a[i]) + b[i] : Op == 1 ? int64_t(b[i]) - a[i] : int64_t(a[i]) * b[i];
+        d[i] = scaleRef<T>(s, sf, lo, hi);
+    }
+}
+
+template <class T>
+SCALAR void scalarDiv(const T* a, const T* b, T* d, int n, int sf) {
+    const float scale = ldexpf(1.0f, -sf);
+    const float lo = float(std::numeric_limits<T>::min()), hi = float(std::numeric_limits<T>::max());
+    for (int i = 0; i < n; ++i) {
+        if (a[i] == 0) {
+            d[i] = b[i] > 0 ? T(hi) : b[i] < 0 ? T(lo) : T(0);
+            continue;
+        }
+        float v = float(b[i]) / float(a[i]) * scale;
+        v = v < lo ? lo : v > hi ? hi : v;
+        d[i] = static_cast<T>(nearbyintf(v));
+    }
+}
+
+constexpr int kSf = 3;  // a positive scale factor: the rounding path
+
+// ---- registrations -------------------------------------------------------------
+
+#define PAIR(name, T, lib, plain)                                                                       \
+    void BM_##name(benchmark::State& st) {                                                              \
+        runBinary<T>(st, [](const T* a, const T* b, T* d, int n) { lib; }, int(st.range(0)));          \
+    }                                                                                                   \
+    BENCHMARK(BM_##name)->Arg(kShort)->Arg(kLong);                                                      \
+    void BM_##name##_plain(benchmark::State& st) { runBinary<T>(st, plain, int(st.range(0))); }        \
+    BENCHMARK(BM_##name##_plain)->Arg(kShort);
+
+PAIR(Add_32f, T32f, veksAdd_32f(a, b, d, n), plainAdd32f)
+PAIR(Sub_32f, T32f, veksSub_32f(a, b, d, n), plainSub32f)
+PAIR(Mul_32f, T32f, veksMul_32f(a, b, d, n), plainMul32f)
+PAIR(Div_32f, T32f, veksDiv_32f(a, b, d, n), plainDiv32f)
+PAIR(AddC_32f, T32f, veksAddC_32f(a, b[0], d, n), plainAddC32f)
+PAIR(MulC_32f, T32f, veksMulC_32f(a, b[0], d, n), plainMulC32f)
+PAIR(DivC_32f, T32f, veksDivC_32f(a, b[0], d, n), plainMulC32f)
+PAIR(AddProduct_32f, T32f, veksAddProduct_32f(a, b, d, n), plainAddP32f)
+PAIR(Add_64f, T64f, veksAdd_64f(a, b, d, n), plainAdd64f)
+PAIR(Mul_64f, T64f, veksMul_64f(a, b, d, n), plainMul64f)
+PAIR(Div_64f, T64f, veksDiv_64f(a, b, d, n), plainDiv64f)
+PAIR(MulC_64f, T64f, veksMulC_64f(a, b[0], d, n), plainMulC64f)
+PAIR(Add_32fc, T32fc, veksAdd_32fc(a, b, d, n), plainAdd32fc)
+PAIR(Mul_32fc, T32fc, veksMul_32fc(a, b, d, n), plainMulC<T32fc>)
+PAIR(MulC_32fc, T32fc, veksMulC_32fc(a, b[0], d, n), plainMulCc32fc)
+PAIR(Div_32fc, T32fc, veksDiv_32fc(a, b, d, n), plainDivC<T32fc>)
+PAIR(Add_64fc, T64fc, veksAdd_64fc(a, b, d, n), plainAdd64fc)
+PAIR(Mul_64fc, T64fc, veksMul_64fc(a, b, d, n), plainMulC<T64fc>)
+PAIR(Div_64fc, T64fc, veksDiv_64fc(a, b, d, n), plainDivC<T64fc>)
+
+#define SCALED(name, T, lib, ref)                                                                       \
+    void BM_##name(benchmark::State& st) {                                                              \
+        runBinary<T>(st, [](const T* a, const T* b, T* d, int n) { lib; }, int(st.range(0)));          \
+    }                                                                                                   \
+    BENCHMARK(BM_##name)->Arg(kShort)->Arg(kLong);                                                      \
+    void BM_##name##_scalar(benchmark::State& st) {                                                     \
+        runBinary<T>(st, [](const T* a, const T* b, T* d, int n) { ref; }, int(st.range(0)));          \
+    }                                                                                                   \
+    BENCHMARK(BM_##name##_scalar)->Arg(kShort);
+
+SCALED(Add_16s_Sfs, T16s, veksAdd_16s_Sfs(a, b, d, n, kSf), (scalarScaled<T16s, 0>(a, b, d, n, kSf)))
+SCALED(Sub_16s_Sfs, T16s, veksSub_16s_Sfs(a, b, d, n, kSf), (scalarScaled<T16s, 1>(a, b, d, n, kSf)))
+SCALED(Mul_16s_Sfs, T16s, veksMul_16s_Sfs(a, b, d, n, kSf), (scalarScaled<T16s, 2>(a, b, d, n, kSf)))
+SCALED(MulC_16s_Sfs, T16s, veksMulC_16s_Sfs(a, b[0], d, n, kSf), (scalarScaled<T16s, 2>(a, b, d, n, kSf)))
+SCALED(Add_16u_Sfs, T16u, veksAdd_16u_Sfs(a, b, d, n, kSf), (scalarScaled<T16u, 0>(a, b, d, n, kSf)))
+SCALED(Mul_16u_Sfs, T16u, veksMul_16u_Sfs(a, b, d, n, kSf), (scalarScaled<T16u, 2>(a, b, d, n, kSf)))
+SCALED(Add_8u_Sfs, T8u, veksAdd_8u_Sfs(a, b, d, n, kSf), (scalarScaled<T8u, 0>(a, b, d, n, kSf)))
+SCALED(Mul_8u_Sfs, T8u, veksMul_8u_Sfs(a, b, d, n, kSf), (scalarScaled<T8u, 2>(a, b, d, n, kSf)))
+SCALED(Add_32s_Sfs, T32s, veksAdd_32s_Sfs(a, b, d, n, kSf), (scalarScaled<T32s, 0>(a, b, d, n, kSf)))
+SCALED(Sub_32s_Sfs, T32s, veksSub_32s_Sfs(a, b, d, n, kSf), (scalarScaled<T32s, 1>(a, b, d, n, kSf)))
+SCALED(Mul_32s_Sfs, T32s, veksMul_32s_Sfs(a, b, d, n, kSf), (scalarScaled<T32s, 2>(a, b, d, n, kSf)))
+SCALED(Div_16s_Sfs, T16s, veksDiv_16s_Sfs(a, b, d, n, kSf), (scalarDiv<T16s>(a, b, d, n, kSf)))
+
+// memcpy of the same traffic as a two-source operation over kLong elements
+// of the given width: 3 * width * n bytes moved, so 1.5 * width * n copied.
+void BM_memcpy_traffic(benchmark::State& st) {
+    const size_t bytes = size_t(st.range(0)) * 3 / 2 * kLong;
+    vb::Buf<unsigned char> a(bytes), b(bytes);
+    memset(a.p, 1, bytes);
+    for (auto _ : st) {
+        memcpy(b.p, a.p, bytes);
+        benchmark::ClobberMemory();
+    }
+    vb::setCounters(st, kLong, bytes, bytes);
+}
+BENCHMARK(BM_memcpy_traffic)->Arg(1)->Arg(2)->Arg(4)->Arg(8)->Arg(16);
+
+}  // namespace

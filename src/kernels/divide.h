@@ -1,0 +1,304 @@
+// Division kernels.
+//
+// Single precision: a block of four divisors with no zero among them is
+// divided by the refined reciprocal (r the hardware estimate, e = 1 - d * r,
+// q0 = n * r, q = q0 + (q0 * e + q0) * e); a block holding a zero divisor,
+// and so the IEEE results of zero divisors, by full division. Blocks start
+// at the first element; the last, shorter block follows the same rule.
+//
+// Integers: the quotient of the converted operands in single precision,
+// scaled by 2^-sf (exact: the families keep sf where the product neither
+// overflows nor underflows), then rounded (by the processor's setting, or
+// explicitly by a rounding mode) and saturated. A zero divisor gives 0 for
+// a zero dividend and otherwise the end of the range the dividend's sign
+// points to.
+#pragma once
+
+#include <smmintrin.h>
+#include <stdint.h>
+#include <string.h>
+
+#include <type_traits>
+
+#include "frame/detail/rounding.h"
+#include "frame/detail/traits.h"
+#include "kernels/elementwise.h"
+#include "kernels/sse/vocab.h"
+
+namespace veks {
+namespace kern {
+
+// ---- single precision ---------------------------------------------------------
+
+inline float refinedQuotient(float n, float d) {
+    const float r = _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(d)));
+    const float e = 1.0f - d * r;
+    const float q0 = n * r;
+    return q0 + (q0 * e + q0) * e;
+}
+
+inline __m128 refinedQuotient(__m128 n, __m128 d) {
+    const __m128 r = _mm_rcp_ps(d);
+    const __m128 e = _mm_sub_ps(_mm_set1_ps(1.0f), _mm_mul_ps(d, r));
+    const __m128 q0 = _mm_mul_ps(n, r);
+    return _mm_add_ps(q0, _mm_mul_ps(_mm_add_ps(_mm_mul_ps(q0, e), q0), e));
+}
+
+// d[i] = dividend[i] / divisor[i]; returns whether a divisor was zero.
+template <class SD, class SN>
+inline bool divide32fLoop(SD divisor, SN dividend, float* d, int n) {
+    const __m128 zero = _mm_setzero_ps();
+    int zeroMask = 0;
+    int i = 0;
+    for (; i + 8 <= n; i += 8) {
+        const __m128 a0 = vload(divisor, i), b0 = vload(dividend, i);
+        const __m128 a1 = vload(divisor, i + 4), b1 = vload(dividend, i + 4);
+        const int z0 = _mm_movemask_ps(_mm_cmpeq_ps(a0, zero)), z1 = _mm_movemask_ps(_mm_cmpeq_ps(a1, zero));
+        if (z0 | z1) {
+            zeroMask |= z0 | z1;
+            _mm_storeu_ps(d + i, z0 ? _mm_div_ps(b0, a0) : refinedQuotient(b0, a0));
+            _mm_storeu_ps(d + i + 4, z1 ? _mm_div_ps(b1, a1) : refinedQuotient(b1, a1));
+        } else {
+            const __m128 q0 = refinedQuotient(b0, a0), q1 = refinedQuotient(b1, a1);
+            _mm_storeu_ps(d + i, q0);
+            _mm_storeu_ps(d + i + 4, q1);
+        }
+    }
+    for (; i + 4 <= n; i += 4) {
+        const __m128 a = vload(divisor, i), b = vload(dividend, i);
+        const int z = _mm_movemask_ps(_mm_cmpeq_ps(a, zero));
+        zeroMask |= z;
+        _mm_storeu_ps(d + i, z ? _mm_div_ps(b, a) : refinedQuotient(b, a));
+    }
+    if (i < n) {
+        bool z = false;
+        for (int k = i; k < n; ++k) z |= at(divisor, k) == 0.0f;
+        for (int k = i; k < n; ++k)
+            d[k] = z ? at(dividend, k) / at(divisor, k) : refinedQuotient(at(dividend, k), at(divisor, k));
+        zeroMask |= z;
+    }
+    return zeroMask != 0;
+}
+
+// ---- full division: double, and complex values ---------------------------------
+
+// dividend / divisor for complex values:
+// (n.re * d.re + n.im * d.im) / m and (n.im * d.re - n.re * d.im) / m with
+// m = d.re * d.re + d.im * d.im, in that order. A zero divisor gives the
+// IEEE results of dividing by m = 0.
+template <class C>
+inline C divComplex(C n, C d) {
+    const auto m = d.re * d.re + d.im * d.im;
+    C q;
+    q.re = (n.re * d.re + n.im * d.im) / m;
+    q.im = (n.im * d.re - n.re * d.im) / m;
+    return q;
+}
+
+// The same on two complex values of single precision (re, im, re, im).
+inline __m128 divComplex(__m128 n, __m128 d) {
+    const __m128 dd = _mm_mul_ps(d, d);
+    const __m128 m = _mm_add_ps(_mm_moveldup_ps(dd), _mm_movehdup_ps(dd));  // m, m per element
+    const __m128 dre = _mm_moveldup_ps(d), dim = _mm_movehdup_ps(d);
+    const __m128 nsw = _mm_shuffle_ps(n, n, _MM_SHUFFLE(2, 3, 0, 1));      // n.im, n.re
+    // re: n.re * d.re + n.im * d.im; im: n.im * d.re - n.re * d.im
+    const __m128 a = _mm_mul_ps(n, dre);                                  // n.re d.re, n.im d.re
+    const __m128 b = _mm_mul_ps(nsw, dim);                                // n.im d.im, n.re d.im
+    const __m128 sign = _mm_castsi128_ps(_mm_setr_epi32(0, int(0x80000000), 0, int(0x80000000)));
+    return _mm_div_ps(_mm_add_ps(a, _mm_xor_ps(b, sign)), m);
+}
+inline __m128d divComplex(__m128d n, __m128d d) {
+    const __m128d dd = _mm_mul_pd(d, d);
+    const __m128d m = _mm_add_pd(_mm_unpacklo_pd(dd, dd), _mm_unpackhi_pd(dd, dd));
+    const __m128d dre = _mm_unpacklo_pd(d, d), dim = _mm_unpackhi_pd(d, d);
+    const __m128d nsw = _mm_shuffle_pd(n, n, 1);
+    const __m128d a = _mm_mul_pd(n, dre);
+    const __m128d b = _mm_mul_pd(nsw, dim);
+    const __m128d sign = _mm_castsi128_pd(_mm_setr_epi32(0, 0, 0, int(0x80000000)));
+    return _mm_div_pd(_mm_add_pd(a, _mm_xor_pd(b, sign)), m);
+}
+
+inline bool zeroOf(double v) { return v == 0; }
+template <class C>
+inline bool zeroOf(C v) {
+    return v.re == 0 && v.im == 0;
+}
+inline int zeroLanes(__m128d d) { return _mm_movemask_pd(_mm_cmpeq_pd(d, _mm_setzero_pd())); }
+
+// d[i] = dividend[i] / divisor[i] for T64f, T32fc, T64fc; returns whether a
+// divisor was zero.
+template <class T, class SD, class SN>
+inline bool divideFullLoop(SD divisor, SN dividend, T* d, int n) {
+    constexpr int W = lanesOf<T>();
+    bool z = false;
+    int i = 0;
+    auto zeros = [](auto a) {
+        if constexpr (std::is_same<T, T64f>::value)
+            return zeroLanes(a) != 0;
+        else if constexpr (std::is_same<T, T64fc>::value)
+            return zeroLanes(a) == 3;
+        else {
+            const int m = _mm_movemask_ps(_mm_cmpeq_ps(a, _mm_setzero_ps()));
+            return (m & 3) == 3 || (m & 12) == 12;
+        }
+    };
+    auto quotient = [](auto b, auto a) {
+        if constexpr (std::is_same<T, T64f>::value)
+            return _mm_div_pd(b, a);
+        else
+            return divComplex(b, a);
+    };
+    for (; i + 2 * W <= n; i += 2 * W) {
+        const auto a0 = vload(divisor, i), b0 = vload(dividend, i);
+        const auto a1 = vload(divisor, i + W), b1 = vload(dividend, i + W);
+        z |= zeros(a0) | zeros(a1);
+        const auto q0 = quotient(b0, a0), q1 = quotient(b1, a1);
+        vstore(d + i, q0);
+        vstore(d + i + W, q1);
+    }
+    for (; i + W <= n; i += W) {
+        const auto a = vload(divisor, i), b = vload(dividend, i);
+        if constexpr (std::is_same<T, T64f>::value) {
+            z |= zeroLanes(a) != 0;
+            vstore(d + i, _mm_div_pd(b, a));
+        } else if constexpr (std::is_same<T, T64fc>::value) {
+            z |= zeroLanes(a) == 3;
+            vstore(d + i, divComplex(b, a));
+        } else {
+            const int m = _mm_movemask_ps(_mm_cmpeq_ps(a, _mm_setzero_ps()));
+            z |= (m & 3) == 3 || (m & 12) == 12;
+            vstore(d + i, divComplex(b, a));
+        }
+    }
+    for (; i < n; ++i) {
+        const T a = at(divisor, i), b = at(dividend, i);
+        z |= zeroOf(a);
+        if constexpr (std::is_same<T, T64f>::value)
+            d[i] = b / a;
+        else
+            d[i] = divComplex(b, a);
+    }
+    return z;
+}
+
+// ---- integers through single precision ------------------------------------------
+
+inline __m128 fload4(Arr<T8u> s, int i) {
+    int32_t w;
+    memcpy(&w, s.p + i, 4);
+    return _mm_cvtepi32_ps(_mm_cvtepu8_epi32(_mm_cvtsi32_si128(w)));
+}
+inline __m128 fload4(Arr<T16s> s, int i) { return _mm_cvtepi32_ps(_mm_cvtepi16_epi32(sse::load64(s.p + i))); }
+inline __m128 fload4(Arr<T16u> s, int i) { return _mm_cvtepi32_ps(_mm_cvtepu16_epi32(sse::load64(s.p + i))); }
+inline __m128 fload4(Arr<T32s> s, int i) { return _mm_cvtepi32_ps(sse::loadu(s.p + i)); }
+template <class T>
+inline __m128 fload4(Bcast<T> s, int) {
+    return _mm_set1_ps(static_cast<float>(s.v));
+}
+
+inline void store4(T8u* d, __m128i r) {
+    const __m128i w = _mm_packus_epi16(_mm_packus_epi32(r, r), r);
+    const int32_t v = _mm_cvtsi128_si32(w);
+    memcpy(d, &v, 4);
+}
+inline void store4(T16s* d, __m128i r) { sse::store64(d, _mm_packs_epi32(r, r)); }
+inline void store4(T16u* d, __m128i r) { sse::store64(d, _mm_packus_epi32(r, r)); }
+inline void store4(T32s* d, __m128i r) { sse::storeu(d, r); }
+
+// The mode argument: the processor's setting, or an explicit rounding mode.
+enum : int { kRoundCurrent = -1 };
+
+template <class TD>
+constexpr float floatLo() {
+    return static_cast<float>(Range<TD>::lo);
+}
+// The largest value that rounds inside the range for 8- and 16-bit types;
+// for T32s values from 2^31 on are handled apart.
+template <class TD>
+constexpr float floatHi() {
+    return sizeof(TD) < 4 ? static_cast<float>(Range<TD>::hi) : 2147483520.0f;
+}
+
+// Scalar twin. q * scale is exact for the scale factors the families pass.
+template <class TD, int Mode>
+inline TD divScaled(float divisor, float dividend, float scale) {
+    if (divisor == 0.0f)
+        return static_cast<TD>(dividend > 0 ? Range<TD>::hi : dividend < 0 ? Range<TD>::lo : 0);
+    const float v = (dividend / divisor) * scale;
+    if constexpr (Mode == kRoundCurrent) {
+        if (sizeof(TD) == 4 && v >= 2147483648.0f) return static_cast<TD>(Range<TD>::hi);
+        const float c = v < floatLo<TD>() ? floatLo<TD>() : v > floatHi<TD>() ? floatHi<TD>() : v;
+        return static_cast<TD>(_mm_cvtss_si32(_mm_set_ss(c)));
+    } else {
+        return saturateIntegral<TD>(roundByMode(static_cast<double>(v), Mode));
+    }
+}
+
+template <int Mode>
+inline __m128 roundV(__m128 v) {
+    if constexpr (Mode == VEK_ROUND_ZERO) {
+        return _mm_round_ps(v, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
+    } else if constexpr (Mode == VEK_ROUND_NEAR) {
+        return _mm_round_ps(v, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
+    } else {
+        // ties away from zero: truncate, then step away when |v - t| >= 1/2
+        const __m128 t = _mm_round_ps(v, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
+        const __m128 absMask = _mm_castsi128_ps(_mm_set1_epi32(0x7fffffff));
+        const __m128 far = _mm_cmpge_ps(_mm_and_ps(_mm_sub_ps(v, t), absMask), _mm_set1_ps(0.5f));
+        const __m128 step = _mm_or_ps(_mm_set1_ps(1.0f), _mm_andnot_ps(absMask, v));  // +-1 by the sign of v
+        return _mm_add_ps(t, _mm_and_ps(far, step));
+    }
+}
+
+// d[i] = dividend[i] / divisor[i] * 2^-sf, rounded and saturated; returns
+// whether a divisor was zero. Requires 2^-sf * |quotient| to stay normal.
+template <class TD, int Mode, class SD, class SN>
+inline bool divideIntLoop(SD divisor, SN dividend, TD* d, int n, int sf) {
+    const float scale = ldexpf(1.0f, -sf);
+    const __m128 vscale = _mm_set1_ps(scale), zero = _mm_setzero_ps();
+    const __m128 lo = _mm_set1_ps(floatLo<TD>()), hi = _mm_set1_ps(floatHi<TD>());
+    const __m128i ilo = _mm_set1_epi32(static_cast<int>(Range<TD>::lo));
+    const __m128i ihi = _mm_set1_epi32(static_cast<int>(Range<TD>::hi));
+    int zeroMask = 0;
+    int i = 0;
+    for (; i + 4 <= n; i += 4) {
+        const __m128 a = fload4(divisor, i), b = fload4(dividend, i);
+        const __m128 z = _mm_cmpeq_ps(a, zero);
+        const __m128 v = _mm_mul_ps(_mm_div_ps(b, _mm_or_ps(a, _mm_and_ps(z, _mm_set1_ps(1.0f)))), vscale);
+        __m128i r;
+        if constexpr (Mode == kRoundCurrent)
+            r = _mm_cvtps_epi32(_mm_max_ps(_mm_min_ps(v, hi), lo));
+        else
+            r = _mm_cvttps_epi32(_mm_max_ps(_mm_min_ps(roundV<Mode>(v), hi), lo));
+        if constexpr (sizeof(TD) == 4)
+            r = _mm_blendv_epi8(r, ihi, _mm_castps_si128(_mm_cmpge_ps(v, _mm_set1_ps(2147483648.0f))));
+        // zero divisors: 0, or the end of the range by the dividend's sign
+        const __m128i sub = _mm_or_si128(_mm_and_si128(_mm_castps_si128(_mm_cmpgt_ps(b, zero)), ihi),
+                                         _mm_and_si128(_mm_castps_si128(_mm_cmplt_ps(b, zero)), ilo));
+        r = _mm_blendv_epi8(r, sub, _mm_castps_si128(z));
+        zeroMask |= _mm_movemask_ps(z);
+        store4(d + i, r);
+    }
+    for (; i < n; ++i) {
+        const float a = static_cast<float>(at(divisor, i)), b = static_cast<float>(at(dividend, i));
+        zeroMask |= a == 0.0f;
+        d[i] = divScaled<TD, Mode>(a, b, scale);
+    }
+    return zeroMask != 0;
+}
+
+// Scalar twin of the whole loop, for the kernel tests.
+template <class TD, int Mode, class SD, class SN>
+inline bool divideIntLoopScalar(SD divisor, SN dividend, TD* d, int n, int sf) {
+    const float scale = ldexpf(1.0f, -sf);
+    bool z = false;
+    for (int i = 0; i < n; ++i) {
+        const float a = static_cast<float>(at(divisor, i)), b = static_cast<float>(at(dividend, i));
+        z |= a == 0.0f;
+        d[i] = divScaled<TD, Mode>(a, b, scale);
+    }
+    return z;
+}
+
+}  // namespace kern
+}  // namespace veks

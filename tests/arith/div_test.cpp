@@ -1,0 +1,409 @@
+// Division families against models written from their rules.
+#include <fenv.h>
+
+#include "harness.h"
+
+namespace {
+
+using at::Shape;
+template <class T1, class T2, class TD>
+using C = at::Case<T1, T2, TD>;
+
+constexpr int kCurrent = -1;  // rounding by the processor's setting (the default: nearest even)
+
+template <class TD>
+TD satOf(long double v) {
+    return ref::clampTo<TD>(v);
+}
+
+// Integer quotient: the single-precision quotient of the converted operands
+// (rounded to nearest), times 2^-sf, rounded by the mode, saturated; a zero
+// divisor gives 0 or the end of the range by the dividend's sign. Every
+// scale factor goes through this one rule.
+template <class TD>
+TD divIntOne(int64_t divisor, int64_t dividend, int sf, int mode) {
+    if (divisor == 0) {
+        return dividend > 0 ? std::numeric_limits<TD>::max() : dividend < 0 ? std::numeric_limits<TD>::min() : TD(0);
+    }
+    const float q = static_cast<float>(dividend) / static_cast<float>(divisor);
+    const int s = sf < -400 ? -400 : sf > 400 ? 400 : sf;
+    const long double v = ldexpl(static_cast<long double>(q), -s);  // exact in the 64-bit mantissa
+    long double r;
+    switch (mode) {
+        case VEK_ROUND_ZERO: r = truncl(v); break;
+        case VEK_ROUND_HALF_AWAY: r = roundl(v); break;
+        default: {
+            r = floorl(v);
+            const long double f = v - r;
+            if (f > 0.5L || (f == 0.5L && fmodl(r, 2.0L) != 0)) r += 1;
+        }
+    }
+    return satOf<TD>(r);
+}
+
+// Swap: the first operand is the dividend (element / constant).
+template <class T1, class T2, class TD, bool Swap, int Mode>
+VekResult refDivInt(const T1* x1, const T2* x2, TD* d, int n, int sf) {
+    bool z = false;
+    for (int i = 0; i < n; ++i) {
+        const int64_t a = Swap ? int64_t(x2[i]) : int64_t(x1[i]);
+        const int64_t b = Swap ? int64_t(x1[i]) : int64_t(x2[i]);
+        z |= a == 0;
+        d[i] = divIntOne<TD>(a, b, sf, Mode);
+    }
+    return z ? VEK_WRN_DIV_BY_ZERO : VEK_OK;
+}
+
+// Exact rational num / den * 2^-sf to nearest even, saturated to T16s.
+T16s ratio16(int64_t num, int64_t den, int sf) {
+    if (sf >= -30 && sf <= 30) {
+        if (sf < 0) num *= int64_t(1) << -sf;
+        if (sf > 0) den *= int64_t(1) << sf;
+        int64_t q = num / den, r = num % den;  // toward zero
+        const int64_t twice = 2 * (r < 0 ? -r : r);
+        if (twice > den || (twice == den && (q % 2 != 0))) q += (num < 0) ? -1 : 1;
+        return satOf<T16s>(q);
+    }
+    // far scale factors: 0 or saturation, decided well away from any tie
+    const int s = sf < -400 ? -400 : sf > 400 ? 400 : sf;
+    return satOf<T16s>(nearbyintl(ldexpl(static_cast<long double>(num) / den, -s)));
+}
+
+template <bool Swap>
+VekResult refDiv16sc(const T16sc* x1, const T16sc* x2, T16sc* d, int n, int sf) {
+    bool z = false;
+    for (int i = 0; i < n; ++i) {
+        const T16sc a = Swap ? x2[i] : x1[i], b = Swap ? x1[i] : x2[i];
+        if (a.re == 0 && a.im == 0) {
+            z = true;
+            d[i].re = divIntOne<T16s>(0, b.re, 0, kCurrent);
+            d[i].im = divIntOne<T16s>(0, b.im, 0, kCurrent);
+            continue;
+        }
+        const int64_t m = int64_t(a.re) * a.re + int64_t(a.im) * a.im;
+        d[i].re = ratio16(int64_t(b.re) * a.re + int64_t(b.im) * a.im, m, sf);
+        d[i].im = ratio16(int64_t(b.im) * a.re - int64_t(b.re) * a.im, m, sf);
+    }
+    return z ? VEK_WRN_DIV_BY_ZERO : VEK_OK;
+}
+
+// Blocks of four from the first element (the last one shorter): refined
+// reciprocal unless the block holds a zero divisor.
+template <bool Swap>
+VekResult refDiv32f(const T32f* x1, const T32f* x2, T32f* d, int n, int) {
+    bool any = false;
+    for (int b = 0; b < n; b += 4) {
+        const int e = b + 4 < n ? b + 4 : n;
+        bool z = false;
+        for (int i = b; i < e; ++i) z |= (Swap ? x2[i] : x1[i]) == 0.0f;
+        for (int i = b; i < e; ++i) {
+            const float a = Swap ? x2[i] : x1[i], q = Swap ? x1[i] : x2[i];
+            d[i] = z ? q / a : ref::refinedQuotient(q, a);
+        }
+        any |= z;
+    }
+    return any ? VEK_WRN_DIV_BY_ZERO : VEK_OK;
+}
+
+// Multiplication by the single-precision reciprocal.
+VekResult refDivC32f(const T32f* x1, const T32f* x2, T32f* d, int n, int) {
+    for (int i = 0; i < n; ++i) d[i] = x1[i] * (1.0f / x2[i]);
+    return VEK_OK;
+}
+
+template <class T, bool Swap>
+VekResult refDivFull(const T* x1, const T* x2, T* d, int n, int) {
+    bool z = false;
+    for (int i = 0; i < n; ++i) {
+        const T a = Swap ? x2[i] : x1[i], b = Swap ? x1[i] : x2[i];
+        if constexpr (at::Cplx<T>::value) {
+            z |= a.re == 0 && a.im == 0;
+            const auto m = a.re * a.re + a.im * a.im;
+            d[i].re = (b.re * a.re + b.im * a.im) / m;
+            d[i].im = (b.im * a.re - b.re * a.im) / m;
+        } else {
+            z |= a == 0;
+            d[i] = b / a;
+        }
+    }
+    return z ? VEK_WRN_DIV_BY_ZERO : VEK_OK;
+}
+
+template <class V>
+void visitDiv(V&& v) {
+    AT_BIN_SFS(veksDiv_16s_Sfs, T16s, T16s, T16s, nullptr, refDivInt<T16s, T16s, T16s, false, kCurrent>, false);
+    AT_BIN_I_SFS(veksDiv_16s_ISfs, T16s, T16s, nullptr, refDivInt<T16s, T16s, T16s, false, kCurrent>, false);
+    AT_BIN_SFS(veksDiv_16u_Sfs, T16u, T16u, T16u, nullptr, refDivInt<T16u, T16u, T16u, false, kCurrent>, false);
+    AT_BIN_I_SFS(veksDiv_16u_ISfs, T16u, T16u, nullptr, refDivInt<T16u, T16u, T16u, false, kCurrent>, false);
+    AT_BIN_SFS(veksDiv_8u_Sfs, T8u, T8u, T8u, nullptr, refDivInt<T8u, T8u, T8u, false, kCurrent>, false);
+    AT_BIN_I_SFS(veksDiv_8u_ISfs, T8u, T8u, nullptr, refDivInt<T8u, T8u, T8u, false, kCurrent>, false);
+    AT_BIN_SFS(veksDiv_32s_Sfs, T32s, T32s, T32s, nullptr, refDivInt<T32s, T32s, T32s, false, kCurrent>, false);
+    AT_BIN_I_SFS(veksDiv_32s_ISfs, T32s, T32s, nullptr, refDivInt<T32s, T32s, T32s, false, kCurrent>, false);
+    AT_BIN_SFS(veksDiv_32s16s_Sfs, T32s, T16s, T16s, nullptr, refDivInt<T32s, T16s, T16s, false, kCurrent>, false);
+    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_Sfs mode 0", Shape::Binary, true, [](const T16s* x1, T16s* x2, T16s* d, T16s, int n, int sf) { return veksDiv_Round_16s_Sfs(x1, x2, d, n, 0, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 0>, false});
+    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_ISfs mode 0", Shape::BinaryInPlace, true, [](const T16s* x1, T16s* x2, T16s*, T16s, int n, int sf) { return veksDiv_Round_16s_ISfs(x1, x2, n, 0, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 0>, false});
+    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_Sfs mode 1", Shape::Binary, true, [](const T16s* x1, T16s* x2, T16s* d, T16s, int n, int sf) { return veksDiv_Round_16s_Sfs(x1, x2, d, n, 1, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 1>, false});
+    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_ISfs mode 1", Shape::BinaryInPlace, true, [](const T16s* x1, T16s* x2, T16s*, T16s, int n, int sf) { return veksDiv_Round_16s_ISfs(x1, x2, n, 1, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 1>, false});
+    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_Sfs mode 2", Shape::Binary, true, [](const T16s* x1, T16s* x2, T16s* d, T16s, int n, int sf) { return veksDiv_Round_16s_Sfs(x1, x2, d, n, 2, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 2>, false});
+    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_ISfs mode 2", Shape::BinaryInPlace, true, [](const T16s* x1, T16s* x2, T16s*, T16s, int n, int sf) { return veksDiv_Round_16s_ISfs(x1, x2, n, 2, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 2>, false});
+    AT_C_SFS(veksDivC_16s_Sfs, T16s, T16s, nullptr, refDivInt<T16s, T16s, T16s, true, kCurrent>, true);
+    AT_C_I_SFS(veksDivC_16s_ISfs, T16s, nullptr, refDivInt<T16s, T16s, T16s, true, kCurrent>, true);
+    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_Sfs mode 0", Shape::Binary, true, [](const T16u* x1, T16u* x2, T16u* d, T16u, int n, int sf) { return veksDiv_Round_16u_Sfs(x1, x2, d, n, 0, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 0>, false});
+    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_ISfs mode 0", Shape::BinaryInPlace, true, [](const T16u* x1, T16u* x2, T16u*, T16u, int n, int sf) { return veksDiv_Round_16u_ISfs(x1, x2, n, 0, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 0>, false});
+    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_Sfs mode 1", Shape::Binary, true, [](const T16u* x1, T16u* x2, T16u* d, T16u, int n, int sf) { return veksDiv_Round_16u_Sfs(x1, x2, d, n, 1, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 1>, false});
+    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_ISfs mode 1", Shape::BinaryInPlace, true, [](const T16u* x1, T16u* x2, T16u*, T16u, int n, int sf) { return veksDiv_Round_16u_ISfs(x1, x2, n, 1, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 1>, false});
+    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_Sfs mode 2", Shape::Binary, true, [](const T16u* x1, T16u* x2, T16u* d, T16u, int n, int sf) { return veksDiv_Round_16u_Sfs(x1, x2, d, n, 2, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 2>, false});
+    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_ISfs mode 2", Shape::BinaryInPlace, true, [](const T16u* x1, T16u* x2, T16u*, T16u, int n, int sf) { return veksDiv_Round_16u_ISfs(x1, x2, n, 2, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 2>, false});
+    AT_C_SFS(veksDivC_16u_Sfs, T16u, T16u, nullptr, refDivInt<T16u, T16u, T16u, true, kCurrent>, true);
+    AT_C_I_SFS(veksDivC_16u_ISfs, T16u, nullptr, refDivInt<T16u, T16u, T16u, true, kCurrent>, true);
+    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_Sfs mode 0", Shape::Binary, true, [](const T8u* x1, T8u* x2, T8u* d, T8u, int n, int sf) { return veksDiv_Round_8u_Sfs(x1, x2, d, n, 0, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 0>, false});
+    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_ISfs mode 0", Shape::BinaryInPlace, true, [](const T8u* x1, T8u* x2, T8u*, T8u, int n, int sf) { return veksDiv_Round_8u_ISfs(x1, x2, n, 0, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 0>, false});
+    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_Sfs mode 1", Shape::Binary, true, [](const T8u* x1, T8u* x2, T8u* d, T8u, int n, int sf) { return veksDiv_Round_8u_Sfs(x1, x2, d, n, 1, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 1>, false});
+    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_ISfs mode 1", Shape::BinaryInPlace, true, [](const T8u* x1, T8u* x2, T8u*, T8u, int n, int sf) { return veksDiv_Round_8u_ISfs(x1, x2, n, 1, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 1>, false});
+    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_Sfs mode 2", Shape::Binary, true, [](const T8u* x1, T8u* x2, T8u* d, T8u, int n, int sf) { return veksDiv_Round_8u_Sfs(x1, x2, d, n, 2, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 2>, false});
+    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_ISfs mode 2", Shape::BinaryInPlace, true, [](const T8u* x1, T8u* x2, T8u*, T8u, int n, int sf) { return veksDiv_Round_8u_ISfs(x1, x2, n, 2, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 2>, false});
+    AT_C_SFS(veksDivC_8u_Sfs, T8u, T8u, nullptr, refDivInt<T8u, T8u, T8u, true, kCurrent>, true);
+    AT_C_I_SFS(veksDivC_8u_ISfs, T8u, nullptr, refDivInt<T8u, T8u, T8u, true, kCurrent>, true);
+    AT_BIN_SFS(veksDiv_16sc_Sfs, T16sc, T16sc, T16sc, nullptr, refDiv16sc<false>);
+    AT_BIN_I_SFS(veksDiv_16sc_ISfs, T16sc, T16sc, nullptr, refDiv16sc<false>);
+    AT_C_SFS(veksDivC_16sc_Sfs, T16sc, T16sc, nullptr, refDiv16sc<true>, true);
+    AT_C_I_SFS(veksDivC_16sc_ISfs, T16sc, nullptr, refDiv16sc<true>, true);
+    AT_C(veksDivCRev_16u, T16u, T16u, nullptr, refDivInt<T16u, T16u, T16u, false, kCurrent>);
+    AT_C_I(veksDivCRev_16u_I, T16u, nullptr, refDivInt<T16u, T16u, T16u, false, kCurrent>);
+    AT_BIN(veksDiv_32f, T32f, T32f, T32f, nullptr, refDiv32f<false>, false);
+    AT_BIN_I(veksDiv_32f_I, T32f, T32f, nullptr, refDiv32f<false>, false);
+    AT_C(veksDivCRev_32f, T32f, T32f, nullptr, refDiv32f<false>, false);
+    AT_C_I(veksDivCRev_32f_I, T32f, nullptr, refDiv32f<false>, false);
+    AT_C(veksDivC_32f, T32f, T32f, nullptr, refDivC32f, true);
+    AT_C_I(veksDivC_32f_I, T32f, nullptr, refDivC32f, true);
+    AT_BIN(veksDiv_64f, T64f, T64f, T64f, nullptr, refDivFull<T64f, false>, false);
+    AT_BIN_I(veksDiv_64f_I, T64f, T64f, nullptr, refDivFull<T64f, false>, false);
+    AT_C(veksDivC_64f, T64f, T64f, nullptr, refDivFull<T64f, true>, true);
+    AT_C_I(veksDivC_64f_I, T64f, nullptr, refDivFull<T64f, true>, true);
+    AT_BIN(veksDiv_32fc, T32fc, T32fc, T32fc, nullptr, refDivFull<T32fc, false>, false);
+    AT_BIN_I(veksDiv_32fc_I, T32fc, T32fc, nullptr, refDivFull<T32fc, false>, false);
+    AT_C(veksDivC_32fc, T32fc, T32fc, nullptr, refDivFull<T32fc, true>, true);
+    AT_C_I(veksDivC_32fc_I, T32fc, nullptr, refDivFull<T32fc, true>, true);
+    AT_BIN(veksDiv_64fc, T64fc, T64fc, T64fc, nullptr, refDivFull<T64fc, false>, false);
+    AT_BIN_I(veksDiv_64fc_I, T64fc, T64fc, nullptr, refDivFull<T64fc, false>, false);
+    AT_C(veksDivC_64fc, T64fc, T64fc, nullptr, refDivFull<T64fc, true>, true);
+    AT_C_I(veksDivC_64fc_I, T64fc, nullptr, refDivFull<T64fc, true>, true);
+}
+
+TEST(Div, MatchesReference) {
+    uint64_t seed = 900;
+    visitDiv([&](const auto& c) { at::check(c, ++seed); });
+}
+
+TEST(Div, ChecksBeforeWriting) {
+    visitDiv([](const auto& c) { at::contract(c); });
+}
+
+TEST(Div, NamedValues) {
+    // b / a, and the substitutes of a zero divisor
+    const T16s a[3] = {0, 0, 0}, b[3] = {5, 0, -5};
+    T16s d[3];
+    EXPECT_EQ(veksDiv_16s_Sfs(a, b, d, 3, 0), VEK_WRN_DIV_BY_ZERO);
+    EXPECT_EQ(d[0], 32767);
+    EXPECT_EQ(d[1], 0);
+    EXPECT_EQ(d[2], -32768);
+    const T16s a2[2] = {3, -4}, b2[2] = {9, 10};
+    EXPECT_EQ(veksDiv_16s_Sfs(a2, b2, d, 2, 0), VEK_OK);
+    EXPECT_EQ(d[0], 3);
+    EXPECT_EQ(d[1], -2);  // -2.5 to even
+    // the shortcut ranges keep the signs: a negative divisor flips
+    const T16s a3[3] = {-7, 7, 0}, b3[3] = {1, -1, 0};
+    EXPECT_EQ(veksDiv_16s_Sfs(a3, b3, d, 3, -31), VEK_WRN_DIV_BY_ZERO);
+    EXPECT_EQ(d[0], -32768);
+    EXPECT_EQ(d[1], -32768);
+    EXPECT_EQ(d[2], 0);
+    EXPECT_EQ(veksDiv_16s_Sfs(a3, b3, d, 2, -31), VEK_OK);
+    // -32768 / -1 at scale 16 is exactly one half: 0 to nearest even, 1 away
+    const T16s a4 = -1, b4 = -32768;
+    EXPECT_EQ(veksDiv_16s_Sfs(&a4, &b4, d, 1, 16), VEK_OK);
+    EXPECT_EQ(d[0], 0);
+    EXPECT_EQ(veksDiv_Round_16s_Sfs(&a4, &b4, d, 1, VEK_ROUND_HALF_AWAY, 16), VEK_OK);
+    EXPECT_EQ(d[0], 1);
+    EXPECT_EQ(veksDiv_Round_16s_Sfs(&a4, &b4, d, 1, VEK_ROUND_HALF_AWAY, 17), VEK_OK);
+    EXPECT_EQ(d[0], 0);
+}
+
+TEST(Div, ZeroConstantIsAnErrorBeforeWriting) {
+    vt::Guarded<T16s> s(std::vector<T16s>{1, 2, 3}), d(3);
+    s.freeze();
+    d.freeze();
+    EXPECT_EQ(veksDivC_16s_Sfs(s.data(), 0, d.data(), 3, 0), VEK_ERR_DIV_BY_ZERO);
+    EXPECT_EQ(veksDivC_16s_ISfs(0, s.data(), 3, 0), VEK_ERR_DIV_BY_ZERO);
+    EXPECT_EQ(veksDivC_16s_Sfs(s.data(), 0, d.data(), 0, 0), VEK_ERR_SIZE);
+    EXPECT_EQ(veksDivC_16sc_ISfs(T16sc{0, 0}, reinterpret_cast<T16sc*>(s.data()), 1, 0), VEK_ERR_DIV_BY_ZERO);
+    EXPECT_EQ(veksDivC_16u_ISfs(0, reinterpret_cast<T16u*>(s.data()), 3, 0), VEK_ERR_DIV_BY_ZERO);
+    EXPECT_EQ(veksDivC_8u_ISfs(0, reinterpret_cast<T8u*>(s.data()), 3, 0), VEK_ERR_DIV_BY_ZERO);
+    EXPECT_EQ(veksDivC_32f_I(0.0f, reinterpret_cast<T32f*>(s.data()), 1), VEK_ERR_DIV_BY_ZERO);
+    EXPECT_EQ(veksDivC_32f_I(-0.0f, reinterpret_cast<T32f*>(s.data()), 1), VEK_ERR_DIV_BY_ZERO);
+    EXPECT_EQ(veksDivC_64f_I(0.0, reinterpret_cast<T64f*>(d.data()), 0), VEK_ERR_SIZE);
+    EXPECT_EQ(veksDivC_32fc_I(T32fc{0, 0}, reinterpret_cast<T32fc*>(s.data()), 0), VEK_ERR_SIZE);
+    T64fc c{1, 2};
+    EXPECT_EQ(veksDivC_64fc(&c, T64fc{0, 0}, &c, 1), VEK_ERR_DIV_BY_ZERO);
+    EXPECT_EQ(veksDivC_64fc(&c, T64fc{0, 1}, &c, 1), VEK_OK);  // zero only when both parts are
+    EXPECT_TRUE(s.intact());
+    EXPECT_TRUE(d.intact());
+}
+
+TEST(Div, RoundModeCheckedAfterPointersAndLength) {
+    vt::Guarded<T8u> a(std::vector<T8u>{1, 2}), b(std::vector<T8u>{3, 4}), d(2);
+    d.freeze();
+    b.freeze();
+    for (int mode : {-1, 3, 100, INT_MIN}) {
+        EXPECT_EQ(veksDiv_Round_8u_Sfs(a.data(), b.data(), d.data(), 2, mode, 0), VEK_ERR_ROUND_MODE);
+        EXPECT_EQ(veksDiv_Round_8u_Sfs(a.data(), b.data(), d.data(), 0, mode, 0), VEK_ERR_SIZE);
+        EXPECT_EQ(veksDiv_Round_8u_Sfs(nullptr, b.data(), d.data(), 2, mode, 0), VEK_ERR_NULL_POINTER);
+        EXPECT_EQ(veksDiv_Round_8u_ISfs(a.data(), b.data(), 2, mode, 0), VEK_ERR_ROUND_MODE);
+        EXPECT_EQ(veksDiv_Round_16s_ISfs(nullptr, nullptr, 2, mode, 0), VEK_ERR_NULL_POINTER);
+    }
+    EXPECT_TRUE(d.intact());
+    EXPECT_TRUE(b.intact());
+}
+
+// Div follows the processor's rounding; Div_Round does not, and gives the
+// caller's setting back.
+TEST(Div, RoundingSetting) {
+    const T16s a[4] = {2, 2, 4, 3}, b[4] = {3, -3, 10, 2};  // 1.5, -1.5, 2.5, 0.667
+    T16s d[4];
+    const int saved = fegetround();
+    fesetround(FE_TOWARDZERO);
+    EXPECT_EQ(veksDiv_16s_Sfs(a, b, d, 4, 0), VEK_OK);
+    EXPECT_EQ(d[0], 1);
+    EXPECT_EQ(d[1], -1);
+    EXPECT_EQ(d[2], 2);
+    EXPECT_EQ(d[3], 0);
+    fesetround(FE_UPWARD);
+    EXPECT_EQ(veksDiv_Round_16s_Sfs(a, b, d, 4, VEK_ROUND_NEAR, 0), VEK_OK);
+    EXPECT_EQ(d[0], 2);
+    EXPECT_EQ(d[1], -2);
+    EXPECT_EQ(d[2], 2);
+    EXPECT_EQ(d[3], 1);
+    EXPECT_EQ(fegetround(), FE_UPWARD);
+    fesetround(saved);
+}
+
+TEST(Div, FloatZeroDivisorBlocks) {
+    // the block holding the zero is divided in full, the other by the
+    // refined reciprocal; zero divisors give the IEEE results
+    const float a[8] = {0.0f, 3.0f, -0.0f, 7.0f, 3.0f, 3.0f, 3.0f, 3.0f};
+    const float b[8] = {1.0f, 1.0f, 0.0f, -2.0f, 1.0f, 1.0f, 1.0f, 1.0f};
+    float d[8];
+    EXPECT_EQ(veksDiv_32f(a, b, d, 8), VEK_WRN_DIV_BY_ZERO);
+    EXPECT_TRUE(isinf(d[0]) && d[0] > 0);
+    EXPECT_EQ(d[1], 1.0f / 3.0f);
+    EXPECT_TRUE(isnan(d[2]));
+    EXPECT_EQ(d[3], -2.0f / 7.0f);
+    for (int i = 4; i < 8; ++i) EXPECT_EQ(d[i], ref::refinedQuotient(1.0f, 3.0f));
+    EXPECT_EQ(veksDiv_32f(a + 4, b + 4, d, 4), VEK_OK);
+    const float v = 0.0f;
+    EXPECT_EQ(veksDivCRev_32f(&v, 2.0f, d, 1), VEK_WRN_DIV_BY_ZERO);
+    EXPECT_TRUE(isinf(d[0]));
+}
+
+TEST(Div, CRev16uZeroCases) {
+    const T16u s[4] = {0, 1, 2, 3};
+    T16u d[4];
+    EXPECT_EQ(veksDivCRev_16u(s, 0, d, 4), VEK_WRN_DIV_BY_ZERO);
+    for (T16u x : d) EXPECT_EQ(x, 0);
+    EXPECT_EQ(veksDivCRev_16u(s + 1, 0, d, 3), VEK_OK);
+    EXPECT_EQ(veksDivCRev_16u(s, 7, d, 4), VEK_WRN_DIV_BY_ZERO);
+    EXPECT_EQ(d[0], 65535);
+    EXPECT_EQ(d[1], 7);
+    EXPECT_EQ(d[2], 4);  // 3.5 to even
+    EXPECT_EQ(d[3], 2);
+}
+
+// DivC_64s_ISfs: the exact rational rounded. N / D by restoring long
+// division over 128-bit magnitudes: N = |x| * 2^-sf or D = |val| * 2^sf.
+ref::Big shl1(ref::Big v, int bit) {
+    v.hi = (v.hi << 1) | (v.lo >> 63);
+    v.lo = (v.lo << 1) | static_cast<uint64_t>(bit);
+    return v;
+}
+bool geq(const ref::Big& a, const ref::Big& b) { return ref::cmpMag(a, b) >= 0; }
+ref::Big sub(ref::Big a, const ref::Big& b) {
+    const uint64_t lo = a.lo - b.lo;
+    a.hi = a.hi - b.hi - (a.lo < b.lo);
+    a.lo = lo;
+    return a;
+}
+
+// Valid for -63 <= sf <= 63.
+T64s refDiv64(T64s x, T64s v, int sf) {
+    const bool neg = (x < 0) != (v < 0);
+    ref::Big N = ref::bigOf(x), D = ref::bigOf(v);
+    N.neg = D.neg = false;
+    for (int i = 0; i < -sf; ++i) N = shl1(N, 0);
+    for (int i = 0; i < sf; ++i) D = shl1(D, 0);
+    ref::Big q, r;
+    for (int b = 127; b >= 0; --b) {
+        const int bit = b >= 64 ? int((N.hi >> (b - 64)) & 1) : int((N.lo >> b) & 1);
+        r = shl1(r, bit);
+        q = shl1(q, 0);
+        if (geq(r, D)) {
+            r = sub(r, D);
+            q.lo |= 1;
+        }
+    }
+    const ref::Big twice = shl1(r, 0);  // r < D < 2^127
+    const int c = ref::cmpMag(twice, D);
+    if (c > 0 || (c == 0 && (q.lo & 1))) q = ref::addBig(q, ref::bigOfU(1));
+    const uint64_t limit = neg ? (1ull << 63) : (1ull << 63) - 1;
+    if (q.hi || q.lo > limit) return neg ? INT64_MIN : INT64_MAX;
+    return neg ? static_cast<T64s>(0ull - q.lo) : static_cast<T64s>(q.lo);
+}
+
+TEST(Div, C64sExactQuotient) {
+    vt::Rng rng(77);
+    std::vector<T64s> vals = vt::edgeValues<T64s>();
+    for (int i = 0; i < 12; ++i) vals.push_back(rng.next<T64s>());
+    for (int i = 0; i < 6; ++i) vals.push_back(rng.range(-1000, 1000));
+    for (T64s v : vals) {
+        if (v == 0) continue;
+        for (int sf = -63; sf <= 63; sf += (sf > -5 && sf < 5) ? 1 : 3) {
+            const int n = 37;
+            std::vector<T64s> x = at::data<T64s>(rng, n);
+            x[0] = v;      // quotient 1
+            x[1] = v == INT64_MIN ? INT64_MAX : -v;  // and about -1
+            x[2] = v / 2;  // a half
+            std::vector<T64s> want(n);
+            for (int i = 0; i < n; ++i) want[i] = refDiv64(x[i], v, sf);
+            vt::Guarded<T64s> g(x, sf & 3);
+            ASSERT_EQ(veksDivC_64s_ISfs(v, g.data(), n, sf), VEK_OK);
+            ASSERT_TRUE(g.intact());
+            ASSERT_TRUE(at::sameAll(g.data(), want)) << "val " << v << " sf " << sf;
+        }
+    }
+    // far scale factors: saturation by sign, or 0
+    const T64s x[3] = {1, -1, 0};
+    T64s d[3];
+    memcpy(d, x, sizeof d);
+    EXPECT_EQ(veksDivC_64s_ISfs(INT64_MIN, d, 3, INT_MIN), VEK_OK);
+    EXPECT_EQ(d[0], INT64_MIN);
+    EXPECT_EQ(d[1], INT64_MAX);
+    EXPECT_EQ(d[2], 0);
+    memcpy(d, x, sizeof d);
+    EXPECT_EQ(veksDivC_64s_ISfs(1, d, 3, INT_MAX), VEK_OK);
+    EXPECT_EQ(d[0], 0);
+    EXPECT_EQ(d[1], 0);
+}
+
+TEST(Div, C64sDepartures) {
+    // a zero val warns and sends non-zero elements to the ends of the range
+    T64s d[4] = {5, -5, 0, INT64_MIN};
+    EXPECT_EQ(veksDivC_64s_ISfs(0, d, 4, 3), VEK_WRN_DIV_BY_ZERO);
+    EXPECT_EQ(d[0], INT64_MAX);
+    EXPECT_EQ(d[1], INT64_MIN);
+    EXPECT_EQ(d[2], 0);
+    EXPECT_EQ(d[3], INT64_MIN);
+    // only a zero length is refused; pointers come first
+    EXPECT_EQ(veksDivC_64s_ISfs(2, d, 0, 0), VEK_ERR_SIZE);
+    EXPECT_EQ(veksDivC_64s_ISfs(2, nullptr, 0, 0), VEK_ERR_NULL_POINTER);
+    EXPECT_EQ(d[0], INT64_MAX);
+}
+
+}  // namespace
