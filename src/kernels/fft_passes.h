@@ -1,0 +1,379 @@
+// The radix passes written once over a vector policy. A policy names the
+// vector of W complex values (V), the buffer type, the twiddle operand (Tw)
+// and the handful of operations the passes need. Included only by the
+// per-type translation units fft_32f.cpp and fft_64f.cpp.
+#pragma once
+
+#include <smmintrin.h>
+#include <string.h>
+
+#include "kernels/fft_kernel.h"
+
+namespace veks {
+namespace fft {
+
+// ---- policies ---------------------------------------------------------------
+
+// One complex value at a time, any element type: the short transforms and
+// the reference the vector policies are checked against.
+template <class TT>
+struct ScalarPolicy {
+    using T = TT;
+    static constexpr size_t W = 1;
+    using V = Cx<T>;
+    using Buf = Cx<T>*;
+    using CBuf = const Cx<T>*;
+    using Tw = Cx<T>;
+    static V load(CBuf b, size_t i) { return b[i]; }
+    static void store(Buf b, size_t i, V v) { b[i] = v; }
+    static V add(V a, V b) { return {a.re + b.re, a.im + b.im}; }
+    static V sub(V a, V b) { return {a.re - b.re, a.im - b.im}; }
+    template <bool Inv>
+    static V rot(V v) {  // forward: times -i; inverse: times +i
+        return Inv ? V{-v.im, v.re} : V{v.im, -v.re};
+    }
+    template <bool Inv>
+    static Tw twLoad(const Cx<T>* w) {
+        return Inv ? Tw{w->re, -w->im} : *w;
+    }
+    template <bool Inv>
+    static Tw twBroadcast(const Cx<T>* w) {
+        return twLoad<Inv>(w);
+    }
+    static V mul(V v, Tw w) { return {v.re * w.re - v.im * w.im, v.re * w.im + v.im * w.re}; }
+    static void storeT4(Buf y, size_t i, V a, V b, V c, V d) {
+        y[i] = a;
+        y[i + 1] = b;
+        y[i + 2] = c;
+        y[i + 3] = d;
+    }
+    static Buf offset(Buf b, size_t i) { return b + i; }
+    static bool same(CBuf a, CBuf b) { return a == b; }
+    static void copy(CBuf src, Buf dst, size_t n) { memcpy(dst, src, n * sizeof(Cx<T>)); }
+};
+
+// Interleaved single precision: two complex values per vector.
+struct InterleavedF32 {
+    using T = float;
+    static constexpr size_t W = 2;
+    using V = __m128;
+    using Buf = Cx<float>*;
+    using CBuf = const Cx<float>*;
+    struct Tw {
+        __m128 re, im;
+    };
+    static V load(CBuf b, size_t i) { return _mm_loadu_ps(&b[i].re); }
+    static void store(Buf b, size_t i, V v) { _mm_storeu_ps(&b[i].re, v); }
+    static V add(V a, V b) { return _mm_add_ps(a, b); }
+    static V sub(V a, V b) { return _mm_sub_ps(a, b); }
+    template <bool Inv>
+    static V rot(V v) {
+        const V s = _mm_shuffle_ps(v, v, _MM_SHUFFLE(2, 3, 0, 1));
+        const V mask = Inv ? _mm_castsi128_ps(_mm_set_epi32(0, int(0x80000000), 0, int(0x80000000)))
+                           : _mm_castsi128_ps(_mm_set_epi32(int(0x80000000), 0, int(0x80000000), 0));
+        return _mm_xor_ps(s, mask);
+    }
+    template <bool Inv>
+    static Tw twLoad(const Cx<float>* w) {
+        const V t = _mm_loadu_ps(&w->re);
+        V im = _mm_movehdup_ps(t);
+        if (Inv) im = _mm_xor_ps(im, _mm_set1_ps(-0.0f));
+        return {_mm_moveldup_ps(t), im};
+    }
+    template <bool Inv>
+    static Tw twBroadcast(const Cx<float>* w) {
+        return {_mm_set1_ps(w->re), _mm_set1_ps(Inv ? -w->im : w->im)};
+    }
+    static V mul(V v, Tw w) {
+        const V s = _mm_shuffle_ps(v, v, _MM_SHUFFLE(2, 3, 0, 1));
+        return _mm_addsub_ps(_mm_mul_ps(v, w.re), _mm_mul_ps(s, w.im));
+    }
+    // a..d hold one output each for p and p+1; y[i..i+3] gets p's, y[i+4..]
+    // p+1's.
+    static void storeT4(Buf y, size_t i, V a, V b, V c, V d) {
+        store(y, i, _mm_movelh_ps(a, b));
+        store(y, i + 2, _mm_movelh_ps(c, d));
+        store(y, i + 4, _mm_movehl_ps(b, a));
+        store(y, i + 6, _mm_movehl_ps(d, c));
+    }
+    static Buf offset(Buf b, size_t i) { return b + i; }
+    static bool same(CBuf a, CBuf b) { return a == b; }
+    static void copy(CBuf src, Buf dst, size_t n) { memcpy(dst, src, n * sizeof(Cx<float>)); }
+};
+
+// Interleaved double precision: one complex value per vector.
+struct InterleavedF64 {
+    using T = double;
+    static constexpr size_t W = 1;
+    using V = __m128d;
+    using Buf = Cx<double>*;
+    using CBuf = const Cx<double>*;
+    struct Tw {
+        __m128d re, im;
+    };
+    static V load(CBuf b, size_t i) { return _mm_loadu_pd(&b[i].re); }
+    static void store(Buf b, size_t i, V v) { _mm_storeu_pd(&b[i].re, v); }
+    static V add(V a, V b) { return _mm_add_pd(a, b); }
+    static V sub(V a, V b) { return _mm_sub_pd(a, b); }
+    template <bool Inv>
+    static V rot(V v) {
+        const V s = _mm_shuffle_pd(v, v, 1);
+        const V mask = Inv ? _mm_set_pd(0.0, -0.0) : _mm_set_pd(-0.0, 0.0);
+        return _mm_xor_pd(s, mask);
+    }
+    template <bool Inv>
+    static Tw twLoad(const Cx<double>* w) {
+        return {_mm_set1_pd(w->re), _mm_set1_pd(Inv ? -w->im : w->im)};
+    }
+    template <bool Inv>
+    static Tw twBroadcast(const Cx<double>* w) {
+        return twLoad<Inv>(w);
+    }
+    static V mul(V v, Tw w) {
+        const V s = _mm_shuffle_pd(v, v, 1);
+        return _mm_addsub_pd(_mm_mul_pd(v, w.re), _mm_mul_pd(s, w.im));
+    }
+    static void storeT4(Buf y, size_t i, V a, V b, V c, V d) {
+        store(y, i, a);
+        store(y, i + 1, b);
+        store(y, i + 2, c);
+        store(y, i + 3, d);
+    }
+    static Buf offset(Buf b, size_t i) { return b + i; }
+    static bool same(CBuf a, CBuf b) { return a == b; }
+    static void copy(CBuf src, Buf dst, size_t n) { memcpy(dst, src, n * sizeof(Cx<double>)); }
+};
+
+// Split single precision: four complex values per vector pair.
+struct SplitF32 {
+    using T = float;
+    static constexpr size_t W = 4;
+    struct V {
+        __m128 re, im;
+    };
+    using Buf = SplitPtr<float>;
+    using CBuf = SplitPtr<const float>;
+    using Tw = V;
+    static V load(CBuf b, size_t i) { return {_mm_loadu_ps(b.re + i), _mm_loadu_ps(b.im + i)}; }
+    static V load(Buf b, size_t i) { return {_mm_loadu_ps(b.re + i), _mm_loadu_ps(b.im + i)}; }
+    static void store(Buf b, size_t i, V v) {
+        _mm_storeu_ps(b.re + i, v.re);
+        _mm_storeu_ps(b.im + i, v.im);
+    }
+    static V add(V a, V b) { return {_mm_add_ps(a.re, b.re), _mm_add_ps(a.im, b.im)}; }
+    static V sub(V a, V b) { return {_mm_sub_ps(a.re, b.re), _mm_sub_ps(a.im, b.im)}; }
+    template <bool Inv>
+    static V rot(V v) {
+        const __m128 z = _mm_set1_ps(-0.0f);
+        return Inv ? V{_mm_xor_ps(v.im, z), v.re} : V{v.im, _mm_xor_ps(v.re, z)};
+    }
+    template <bool Inv>
+    static Tw twLoad(const Cx<float>* w) {
+        const __m128 a = _mm_loadu_ps(&w[0].re), b = _mm_loadu_ps(&w[2].re);
+        __m128 im = _mm_shuffle_ps(a, b, _MM_SHUFFLE(3, 1, 3, 1));
+        if (Inv) im = _mm_xor_ps(im, _mm_set1_ps(-0.0f));
+        return {_mm_shuffle_ps(a, b, _MM_SHUFFLE(2, 0, 2, 0)), im};
+    }
+    template <bool Inv>
+    static Tw twBroadcast(const Cx<float>* w) {
+        return {_mm_set1_ps(w->re), _mm_set1_ps(Inv ? -w->im : w->im)};
+    }
+    static V mul(V v, Tw w) {
+        return {_mm_sub_ps(_mm_mul_ps(v.re, w.re), _mm_mul_ps(v.im, w.im)),
+                _mm_add_ps(_mm_mul_ps(v.re, w.im), _mm_mul_ps(v.im, w.re))};
+    }
+    static void storeT4(Buf y, size_t i, V a, V b, V c, V d) {
+        _MM_TRANSPOSE4_PS(a.re, b.re, c.re, d.re);
+        _MM_TRANSPOSE4_PS(a.im, b.im, c.im, d.im);
+        store(y, i, a);
+        store(y, i + 4, b);
+        store(y, i + 8, c);
+        store(y, i + 12, d);
+    }
+    static Buf offset(Buf b, size_t i) { return {b.re + i, b.im + i}; }
+    static bool same(CBuf a, Buf b) { return a.re == b.re || a.im == b.im || a.re == b.im || a.im == b.re; }
+    static void copy(CBuf src, Buf dst, size_t n) {
+        memcpy(dst.re, src.re, n * sizeof(float));
+        memcpy(dst.im, src.im, n * sizeof(float));
+    }
+};
+
+// Split double precision: two complex values per vector pair.
+struct SplitF64 {
+    using T = double;
+    static constexpr size_t W = 2;
+    struct V {
+        __m128d re, im;
+    };
+    using Buf = SplitPtr<double>;
+    using CBuf = SplitPtr<const double>;
+    using Tw = V;
+    static V load(CBuf b, size_t i) { return {_mm_loadu_pd(b.re + i), _mm_loadu_pd(b.im + i)}; }
+    static V load(Buf b, size_t i) { return {_mm_loadu_pd(b.re + i), _mm_loadu_pd(b.im + i)}; }
+    static void store(Buf b, size_t i, V v) {
+        _mm_storeu_pd(b.re + i, v.re);
+        _mm_storeu_pd(b.im + i, v.im);
+    }
+    static V add(V a, V b) { return {_mm_add_pd(a.re, b.re), _mm_add_pd(a.im, b.im)}; }
+    static V sub(V a, V b) { return {_mm_sub_pd(a.re, b.re), _mm_sub_pd(a.im, b.im)}; }
+    template <bool Inv>
+    static V rot(V v) {
+        const __m128d z = _mm_set1_pd(-0.0);
+        return Inv ? V{_mm_xor_pd(v.im, z), v.re} : V{v.im, _mm_xor_pd(v.re, z)};
+    }
+    template <bool Inv>
+    static Tw twLoad(const Cx<double>* w) {
+        const __m128d a = _mm_loadu_pd(&w[0].re), b = _mm_loadu_pd(&w[1].re);
+        __m128d im = _mm_unpackhi_pd(a, b);
+        if (Inv) im = _mm_xor_pd(im, _mm_set1_pd(-0.0));
+        return {_mm_unpacklo_pd(a, b), im};
+    }
+    template <bool Inv>
+    static Tw twBroadcast(const Cx<double>* w) {
+        return {_mm_set1_pd(w->re), _mm_set1_pd(Inv ? -w->im : w->im)};
+    }
+    static V mul(V v, Tw w) {
+        return {_mm_sub_pd(_mm_mul_pd(v.re, w.re), _mm_mul_pd(v.im, w.im)),
+                _mm_add_pd(_mm_mul_pd(v.re, w.im), _mm_mul_pd(v.im, w.re))};
+    }
+    static void storeT4(Buf y, size_t i, V a, V b, V c, V d) {
+        store(y, i, {_mm_unpacklo_pd(a.re, b.re), _mm_unpacklo_pd(a.im, b.im)});
+        store(y, i + 2, {_mm_unpacklo_pd(c.re, d.re), _mm_unpacklo_pd(c.im, d.im)});
+        store(y, i + 4, {_mm_unpackhi_pd(a.re, b.re), _mm_unpackhi_pd(a.im, b.im)});
+        store(y, i + 6, {_mm_unpackhi_pd(c.re, d.re), _mm_unpackhi_pd(c.im, d.im)});
+    }
+    static Buf offset(Buf b, size_t i) { return {b.re + i, b.im + i}; }
+    static bool same(CBuf a, Buf b) { return a.re == b.re || a.im == b.im || a.re == b.im || a.im == b.re; }
+    static void copy(CBuf src, Buf dst, size_t n) {
+        memcpy(dst.re, src.re, n * sizeof(double));
+        memcpy(dst.im, src.im, n * sizeof(double));
+    }
+};
+
+// ---- passes -----------------------------------------------------------------
+
+template <class P, bool Inv, bool Twiddled>
+inline void butterfly4(typename P::V a, typename P::V b, typename P::V c, typename P::V d,
+                       const typename P::Tw& w1, const typename P::Tw& w2, const typename P::Tw& w3,
+                       typename P::V& y0, typename P::V& y1, typename P::V& y2, typename P::V& y3) {
+    const typename P::V apc = P::add(a, c), amc = P::sub(a, c);
+    const typename P::V bpd = P::add(b, d), jbmd = P::template rot<Inv>(P::sub(b, d));
+    y0 = P::add(apc, bpd);
+    if (Twiddled) {
+        y1 = P::mul(P::add(amc, jbmd), w1);
+        y2 = P::mul(P::sub(apc, bpd), w2);
+        y3 = P::mul(P::sub(amc, jbmd), w3);
+    } else {
+        y1 = P::add(amc, jbmd);
+        y2 = P::sub(apc, bpd);
+        y3 = P::sub(amc, jbmd);
+    }
+}
+
+// First radix-4 pass of a single sequence (s = 1), vectorised over p.
+template <class P, bool Inv, class In>
+void pass4First(In x, typename P::Buf y, size_t m, const Cx<typename P::T>* tw) {
+    for (size_t p = 0; p < m; p += P::W) {
+        typename P::V y0, y1, y2, y3;
+        const Cx<typename P::T>* g = tw + (p / 4) * 12 + (p % 4);
+        butterfly4<P, Inv, true>(P::load(x, p), P::load(x, p + m), P::load(x, p + 2 * m), P::load(x, p + 3 * m),
+                                 P::template twLoad<Inv>(g), P::template twLoad<Inv>(g + 4),
+                                 P::template twLoad<Inv>(g + 8), y0, y1, y2, y3);
+        P::storeT4(y, 4 * p, y0, y1, y2, y3);
+    }
+}
+
+// A radix-4 pass with s >= W sub-sequences, vectorised over q.
+template <class P, bool Inv, class In>
+void pass4(In x, typename P::Buf y, size_t m, size_t s, const Cx<typename P::T>* tw) {
+    const size_t sm = s * m;
+    for (size_t p = 0; p < m; ++p) {
+        const size_t i0 = s * p, o0 = 4 * s * p;
+        if (p == 0) {
+            const typename P::Tw one{};
+            for (size_t q = 0; q < s; q += P::W) {
+                typename P::V y0, y1, y2, y3;
+                butterfly4<P, Inv, false>(P::load(x, q), P::load(x, q + sm), P::load(x, q + 2 * sm),
+                                          P::load(x, q + 3 * sm), one, one, one, y0, y1, y2, y3);
+                P::store(y, q, y0);
+                P::store(y, q + s, y1);
+                P::store(y, q + 2 * s, y2);
+                P::store(y, q + 3 * s, y3);
+            }
+            continue;
+        }
+        const Cx<typename P::T>* g = tw + (p / 4) * 12 + (p % 4);
+        const typename P::Tw w1 = P::template twBroadcast<Inv>(g), w2 = P::template twBroadcast<Inv>(g + 4),
+                             w3 = P::template twBroadcast<Inv>(g + 8);
+        for (size_t q = 0; q < s; q += P::W) {
+            typename P::V y0, y1, y2, y3;
+            const size_t i = i0 + q, o = o0 + q;
+            butterfly4<P, Inv, true>(P::load(x, i), P::load(x, i + sm), P::load(x, i + 2 * sm), P::load(x, i + 3 * sm),
+                                     w1, w2, w3, y0, y1, y2, y3);
+            P::store(y, o, y0);
+            P::store(y, o + s, y1);
+            P::store(y, o + 2 * s, y2);
+            P::store(y, o + 3 * s, y3);
+        }
+    }
+}
+
+// The closing radix-2 pass of an odd order (n = 2, no twiddles).
+template <class P, class In>
+void pass2(In x, typename P::Buf y, size_t s) {
+    for (size_t q = 0; q < s; q += P::W) {
+        const typename P::V a = P::load(x, q), b = P::load(x, q + s);
+        P::store(y, q, P::add(a, b));
+        P::store(y, q + s, P::sub(a, b));
+    }
+}
+
+// All passes of one order; see stockham() in fft_kernel.h for the buffers.
+template <class P, bool Inv>
+void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratch, int order, size_t lanes,
+               const Cx<typename P::T>* tw) {
+    const size_t total = lanes << order;
+    if (order == 0) {
+        if (!P::same(src, dst)) P::copy(src, dst, total);
+        return;
+    }
+    const int passes = order / 2 + (order & 1);
+    bool fromScratch = false;
+    if (P::same(src, dst) && (passes & 1)) {
+        P::copy(src, scratch, total);
+        fromScratch = true;
+    }
+    int n = order;
+    size_t s = lanes;
+    const Cx<typename P::T>* twAt = tw;
+    typename P::Buf in = fromScratch ? scratch : dst;  // valid once pass 1 has run
+    for (int i = 1; i <= passes; ++i) {
+        typename P::Buf out = ((passes - i) & 1) ? scratch : dst;
+        if (n >= 2) {
+            const size_t m = size_t(1) << (n - 2);
+            if (i == 1 && !fromScratch) {
+                if (s < P::W)
+                    pass4First<P, Inv>(src, out, m, twAt);
+                else
+                    pass4<P, Inv>(src, out, m, s, twAt);
+            } else {
+                if (s < P::W)
+                    pass4First<P, Inv>(in, out, m, twAt);
+                else
+                    pass4<P, Inv>(in, out, m, s, twAt);
+            }
+            if (m >= 2) twAt += 12 * ((m + 3) / 4);
+            n -= 2;
+            s *= 4;
+        } else {
+            if (i == 1 && !fromScratch)
+                pass2<P>(src, out, s);
+            else
+                pass2<P>(in, out, s);
+        }
+        in = out;
+    }
+}
+
+}  // namespace fft
+}  // namespace veks
