@@ -184,7 +184,7 @@ VekResult floatInitAlloc(Kind kind, uint32_t id, void** ppSpec, int order, int f
     }
     void* spec = nullptr;
     const VekResult ri = floatInit<T>(kind, id, &spec, order, flag, hint, mem, initBuf);
-    vekFree(initBuf);
+    if (initBuf) vekFree(initBuf);
     if (ri != VEK_OK) {
         vekFree(mem);
         return ri;
@@ -270,7 +270,7 @@ VekResult wrapInitAlloc(Kind kind, uint32_t id, uint32_t innerId, int elemBytes,
     }
     void* spec = nullptr;
     const VekResult ri = wrapInit<TF>(kind, id, innerId, elemBytes, &spec, order, flag, hint, mem, initBuf);
-    vekFree(initBuf);
+    if (initBuf) vekFree(initBuf);
     if (ri != VEK_OK) {
         vekFree(mem);
         return ri;
