@@ -269,6 +269,24 @@ VEKS_API void veksFree(void* ptr);
 
 /* ---- FFT ---------------------------------------------------------------- */
 /* (section: fft) */
+VEKS_API VekResult veksConjCcs_16sc(const T16sc* pSrc, T16sc* pDst, int len);
+VEKS_API VekResult veksConjCcs_16sc_I(T16sc* pSrcDst, int len);
+VEKS_API VekResult veksConjCcs_32fc(const T32fc* pSrc, T32fc* pDst, int len);
+VEKS_API VekResult veksConjCcs_32fc_I(T32fc* pSrcDst, int len);
+VEKS_API VekResult veksConjCcs_64fc(const T64fc* pSrc, T64fc* pDst, int len);
+VEKS_API VekResult veksConjCcs_64fc_I(T64fc* pSrcDst, int len);
+VEKS_API VekResult veksConjPack_16sc(const T16s* pSrc, T16sc* pDst, int len);
+VEKS_API VekResult veksConjPack_16sc_I(T16sc* pSrcDst, int len);
+VEKS_API VekResult veksConjPack_32fc(const T32f* pSrc, T32fc* pDst, int len);
+VEKS_API VekResult veksConjPack_32fc_I(T32fc* pSrcDst, int len);
+VEKS_API VekResult veksConjPack_64fc(const T64f* pSrc, T64fc* pDst, int len);
+VEKS_API VekResult veksConjPack_64fc_I(T64fc* pSrcDst, int len);
+VEKS_API VekResult veksConjPerm_16sc(const T16s* pSrc, T16sc* pDst, int len);
+VEKS_API VekResult veksConjPerm_16sc_I(T16sc* pSrcDst, int len);
+VEKS_API VekResult veksConjPerm_32fc(const T32f* pSrc, T32fc* pDst, int len);
+VEKS_API VekResult veksConjPerm_32fc_I(T32fc* pSrcDst, int len);
+VEKS_API VekResult veksConjPerm_64fc(const T64f* pSrc, T64fc* pDst, int len);
+VEKS_API VekResult veksConjPerm_64fc_I(T64fc* pSrcDst, int len);
 VEKS_API VekResult veksFFTFree_C_16s(FftSpec_C_16s* pSpec);
 VEKS_API VekResult veksFFTFree_C_16sc(FftSpec_C_16sc* pSpec);
 VEKS_API VekResult veksFFTFree_C_32f(FftSpec_C_32f* pSpec);
@@ -374,6 +392,20 @@ VEKS_API VekResult veksFFTInv_PermToR_32f(const T32f* pSrc, T32f* pDst, const Ff
 VEKS_API VekResult veksFFTInv_PermToR_32f_I(T32f* pSrcDst, const FftSpec_R_32f* pSpec, T8u* pBuffer);
 VEKS_API VekResult veksFFTInv_PermToR_64f(const T64f* pSrc, T64f* pDst, const FftSpec_R_64f* pSpec, T8u* pBuffer);
 VEKS_API VekResult veksFFTInv_PermToR_64f_I(T64f* pSrcDst, const FftSpec_R_64f* pSpec, T8u* pBuffer);
+VEKS_API VekResult veksMulPackConj_32f_I(const T32f* pSrc, T32f* pSrcDst, int len);
+VEKS_API VekResult veksMulPackConj_64f_I(const T64f* pSrc, T64f* pSrcDst, int len);
+VEKS_API VekResult veksMulPack_16s_ISfs(const T16s* pSrc, T16s* pSrcDst, int len, int scaleFactor);
+VEKS_API VekResult veksMulPack_16s_Sfs(const T16s* pSrc1, const T16s* pSrc2, T16s* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksMulPack_32f(const T32f* pSrc1, const T32f* pSrc2, T32f* pDst, int len);
+VEKS_API VekResult veksMulPack_32f_I(const T32f* pSrc, T32f* pSrcDst, int len);
+VEKS_API VekResult veksMulPack_64f(const T64f* pSrc1, const T64f* pSrc2, T64f* pDst, int len);
+VEKS_API VekResult veksMulPack_64f_I(const T64f* pSrc, T64f* pSrcDst, int len);
+VEKS_API VekResult veksMulPerm_16s_ISfs(const T16s* pSrc, T16s* pSrcDst, int len, int scaleFactor);
+VEKS_API VekResult veksMulPerm_16s_Sfs(const T16s* pSrc1, const T16s* pSrc2, T16s* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksMulPerm_32f(const T32f* pSrc1, const T32f* pSrc2, T32f* pDst, int len);
+VEKS_API VekResult veksMulPerm_32f_I(const T32f* pSrc, T32f* pSrcDst, int len);
+VEKS_API VekResult veksMulPerm_64f(const T64f* pSrc1, const T64f* pSrc2, T64f* pDst, int len);
+VEKS_API VekResult veksMulPerm_64f_I(const T64f* pSrc, T64f* pSrcDst, int len);
 
 #ifdef __cplusplus
 }
