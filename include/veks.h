@@ -263,6 +263,66 @@ VEKS_API void veksFree(void* ptr);
 
 /* ---- type conversion ---------------------------------------------------- */
 /* (section: convert) */
+VEKS_API VekResult veksConvert_16f16s_Sfs(const T16f* pSrc, T16s* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_16f32f(const T16f* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksConvert_16s16f(const T16s* pSrc, T16f* pDst, int len, int rndMode);
+VEKS_API VekResult veksConvert_16s32f(const T16s* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksConvert_16s32f_Sfs(const T16s* pSrc, T32f* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksConvert_16s32s(const T16s* pSrc, T32s* pDst, int len);
+VEKS_API VekResult veksConvert_16s64f_Sfs(const T16s* pSrc, T64f* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksConvert_16s8s_Sfs(const T16s* pSrc, T8s* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_16u32f(const T16u* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksConvert_24s32f(const T24s* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksConvert_24s32s(const T24s* pSrc, T32s* pDst, int len);
+VEKS_API VekResult veksConvert_24u32f(const T24u* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksConvert_24u32u(const T24u* pSrc, T32u* pDst, int len);
+VEKS_API VekResult veksConvert_32f16f(const T32f* pSrc, T16f* pDst, int len, int rndMode);
+VEKS_API VekResult veksConvert_32f16s_Sfs(const T32f* pSrc, T16s* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_32f16u_Sfs(const T32f* pSrc, T16u* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_32f24s_Sfs(const T32f* pSrc, T24s* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksConvert_32f24u_Sfs(const T32f* pSrc, T24u* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksConvert_32f32s_Sfs(const T32f* pSrc, T32s* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_32f64f(const T32f* pSrc, T64f* pDst, int len);
+VEKS_API VekResult veksConvert_32f8s_Sfs(const T32f* pSrc, T8s* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_32f8u_Sfs(const T32f* pSrc, T8u* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_32s16s(const T32s* pSrc, T16s* pDst, int len);
+VEKS_API VekResult veksConvert_32s16s_Sfs(const T32s* pSrc, T16s* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksConvert_32s24s_Sfs(const T32s* pSrc, T24s* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksConvert_32s32f(const T32s* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksConvert_32s32f_Sfs(const T32s* pSrc, T32f* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksConvert_32s64f(const T32s* pSrc, T64f* pDst, int len);
+VEKS_API VekResult veksConvert_32s64f_Sfs(const T32s* pSrc, T64f* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksConvert_32u24u_Sfs(const T32u* pSrc, T24u* pDst, int len, int scaleFactor);
+VEKS_API VekResult veksConvert_64f16s_Sfs(const T64f* pSrc, T16s* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_64f32f(const T64f* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksConvert_64f32s_Sfs(const T64f* pSrc, T32s* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_64f64s_Sfs(const T64f* pSrc, T64s* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_64s32s_Sfs(const T64s* pSrc, T32s* pDst, int len, int rndMode, int scaleFactor);
+VEKS_API VekResult veksConvert_64s64f(const T64s* pSrc, T64f* pDst, int len);
+VEKS_API VekResult veksConvert_8s16s(const T8s* pSrc, T16s* pDst, int len);
+VEKS_API VekResult veksConvert_8s32f(const T8s* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksConvert_8u32f(const T8u* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksJoinScaled_32f16s_D2L(const T32f* const* pSrc, int nChannels, int chanLen, T16s* pDst);
+VEKS_API VekResult veksJoinScaled_32f24s_D2L(const T32f* const* pSrc, int nChannels, int chanLen, T24s* pDst);
+VEKS_API VekResult veksPackBits_32u8u(const T32u* pSrc, const int* pSrcBitsLen, int len, T8u* pDst, int dstBitOffset, int* pDstLenBit);
+VEKS_API VekResult veksSplitScaled_16s32f_D2L(const T16s* pSrc, T32f** pDst, int nChannels, int chanLen);
+VEKS_API VekResult veksSplitScaled_24s32f_D2L(const T24s* pSrc, T32f** pDst, int nChannels, int chanLen);
+VEKS_API VekResult veksSwapBytes_16u(const T16u* pSrc, T16u* pDst, int len);
+VEKS_API VekResult veksSwapBytes_16u_I(T16u* pSrcDst, int len);
+VEKS_API VekResult veksSwapBytes_24u(const T24u* pSrc, T24u* pDst, int len);
+VEKS_API VekResult veksSwapBytes_24u_I(T24u* pSrcDst, int len);
+VEKS_API VekResult veksSwapBytes_32u(const T32u* pSrc, T32u* pDst, int len);
+VEKS_API VekResult veksSwapBytes_32u_I(T32u* pSrcDst, int len);
+VEKS_API VekResult veksSwapBytes_64u(const T64u* pSrc, T64u* pDst, int len);
+VEKS_API VekResult veksSwapBytes_64u_I(T64u* pSrcDst, int len);
+VEKS_API VekResult veksALawToLin_8u16s(const T8u* pSrc, T16s* pDst, int len);
+VEKS_API VekResult veksALawToLin_8u32f(const T8u* pSrc, T32f* pDst, int len);
+VEKS_API VekResult veksLinToALaw_16s8u(const T16s* pSrc, T8u* pDst, int len);
+VEKS_API VekResult veksLinToALaw_32f8u(const T32f* pSrc, T8u* pDst, int len);
+VEKS_API VekResult veksLinToMuLaw_16s8u(const T16s* pSrc, T8u* pDst, int len);
+VEKS_API VekResult veksLinToMuLaw_32f8u(const T32f* pSrc, T8u* pDst, int len);
+VEKS_API VekResult veksMuLawToLin_8u16s(const T8u* pSrc, T16s* pDst, int len);
+VEKS_API VekResult veksMuLawToLin_8u32f(const T8u* pSrc, T32f* pDst, int len);
 
 /* ---- complex and polar data, flip, preemphasis ------------------------- */
 /* (section: complex) */

@@ -51,4 +51,18 @@ inline TDst roundSat(double x, int rndMode, int sf = 0) {
     return saturateIntegral<TDst>(roundByMode(sf ? ldexp(x, -sf) : x, rndMode));
 }
 
+// Float to integer as the conversions define it: x * 2^-sf, then a clamp
+// from above to hi that a NaN meets as the larger value (so NaN gives hi),
+// then rounding by the mode (roundByMode), then saturation from below to lo.
+// Independent of the processor's rounding setting.
+inline int64_t convertRound(double x, int rndMode, int sf, int64_t lo, int64_t hi) {
+    if (sf != 0) x = ldexp(x, sf > 2200 ? -2200 : sf < -2200 ? 2200 : -sf);
+    if (!(x < static_cast<double>(hi))) return hi;  // NaN, and hi itself
+    const double r = roundByMode(x, rndMode);
+    if (r >= static_cast<double>(hi)) return hi;
+    if (r <= static_cast<double>(lo)) return lo;
+    return static_cast<int64_t>(r);
+}
+
 }  // namespace veks
+

@@ -61,4 +61,35 @@ constexpr bool scaleGivesSign(int sf) {
     return sf <= -8 * static_cast<int>(sizeof(Base<TDst>));
 }
 
+// s / 2^sf for sf >= 1, rounded by a rounding-mode argument: VEK_ROUND_ZERO
+// toward zero, VEK_ROUND_NEAR to nearest with ties to even, any other value
+// to nearest with ties away from zero. Exact for every s and sf.
+inline int64_t shiftRightByMode(int64_t s, int sf, int rndMode) {
+    if (rndMode == VEK_ROUND_NEAR) return shiftRightEven(s, sf);
+    if (sf >= 64) {
+        // |s| / 2^sf <= 1/2; only -2^63 / 2^64 reaches the tie.
+        return (rndMode != VEK_ROUND_ZERO && sf == 64 && s == INT64_MIN) ? -1 : 0;
+    }
+    const int64_t q = s >> sf;  // floor
+    const uint64_t r = static_cast<uint64_t>(s) & ((~0ull) >> (64 - sf));
+    if (rndMode == VEK_ROUND_ZERO) return q + ((s < 0 && r != 0) ? 1 : 0);
+    const uint64_t h = 1ull << (sf - 1);
+    return q + ((r > h || (r == h && s >= 0)) ? 1 : 0);
+}
+
+// The rule onto an explicit range [lo, hi] (for destinations narrower than
+// any C type, such as the 24-bit ones), with positive scale factors rounded
+// by a rounding-mode argument (VEK_ROUND_NEAR gives the library's rule).
+inline int64_t scaleSatRange(int64_t s, int sf, int64_t lo, int64_t hi, int rndMode = VEK_ROUND_NEAR) {
+    int64_t v;
+    if (sf > 0) {
+        v = shiftRightByMode(s, sf, rndMode);
+    } else if (sf < 0) {
+        return shiftLeftSat(s, sf < -63 ? 63 : -sf, lo, hi);
+    } else {
+        v = s;
+    }
+    return v < lo ? lo : v > hi ? hi : v;
+}
+
 }  // namespace veks

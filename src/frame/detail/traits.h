@@ -60,6 +60,18 @@ struct Range {
                                                            : std::numeric_limits<B>::max());
 };
 
+// The packed 24-bit types saturate to their own 24-bit ranges.
+template <>
+struct Range<T24s> {
+    static constexpr int64_t lo = -(int64_t(1) << 23);
+    static constexpr int64_t hi = (int64_t(1) << 23) - 1;
+};
+template <>
+struct Range<T24u> {
+    static constexpr int64_t lo = 0;
+    static constexpr int64_t hi = (int64_t(1) << 24) - 1;
+};
+
 // The packed 24-bit types widen to 32 bits; byte 2 carries the top bits.
 inline int32_t widen(const T24s& v) {
     return static_cast<int32_t>(static_cast<uint32_t>(v.b[0]) | static_cast<uint32_t>(v.b[1]) << 8 |

@@ -1,0 +1,134 @@
+// Loops that turn single- or double-precision values into 8-, 16- and 32-bit
+// integers: optional multiplication by a power of two, clamp to the
+// destination range (a NaN meets the upper clamp and takes it), rounding
+// by mode, store. Mode is a template parameter:
+//   0  toward zero (truncating conversion, any rounding setting);
+//   1  to nearest, ties to even: the caller runs the loop with the
+//      processor's rounding set to nearest;
+//   2  to nearest, ties away from zero: |x| + 0.5 truncated with the sign put
+//      back; the caller runs the loop with the rounding set toward zero, so
+//      that the addition itself never rounds up.
+// The factor is a normal power of two, so the product is exact unless it
+// leaves the finite range, where the clamp gives the same result anyway.
+// Every loop has a scalar twin (the tail) giving identical results.
+#pragma once
+
+#include <smmintrin.h>
+#include <stddef.h>
+#include <stdint.h>
+
+#include "frame/detail/rounding.h"
+#include "frame/detail/traits.h"
+
+namespace veks {
+namespace kern {
+
+// The rounding-mode argument that a kernel mode stands for.
+constexpr int modeArg(int m) { return m == 0 ? VEK_ROUND_ZERO : m == 1 ? VEK_ROUND_NEAR : VEK_ROUND_HALF_AWAY; }
+
+// Scalar twin: exact double arithmetic, independent of the rounding setting.
+template <class TSrc, class TDst, int M, bool Scaled>
+inline void floatToIntScalar(const TSrc* pSrc, TDst* pDst, size_t n, TSrc factor) {
+    for (size_t i = 0; i < n; ++i) {
+        TSrc x = pSrc[i];
+        if (Scaled) x *= factor;
+        pDst[i] = static_cast<TDst>(convertRound(x, modeArg(M), 0, Range<TDst>::lo, Range<TDst>::hi));
+    }
+}
+
+template <int M>
+inline __m128i roundToInt(__m128 y) {
+    if constexpr (M == 0) {
+        return _mm_cvttps_epi32(y);
+    } else if constexpr (M == 1) {
+        return _mm_cvtps_epi32(y);
+    } else {
+        const __m128 a = _mm_add_ps(_mm_andnot_ps(_mm_set1_ps(-0.0f), y), _mm_set1_ps(0.5f));
+        return _mm_sign_epi32(_mm_cvttps_epi32(a), _mm_castps_si128(y));
+    }
+}
+
+// Two doubles to two int32 lanes (low half of the result).
+template <int M>
+inline __m128i roundToInt(__m128d y) {
+    if constexpr (M == 0) {
+        return _mm_cvttpd_epi32(y);
+    } else if constexpr (M == 1) {
+        return _mm_cvtpd_epi32(y);
+    } else {
+        const __m128d sign = _mm_set1_pd(-0.0);
+        const __m128d a = _mm_add_pd(_mm_andnot_pd(sign, y), _mm_set1_pd(0.5));
+        const __m128d t = _mm_round_pd(a, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
+        return _mm_cvttpd_epi32(_mm_or_pd(t, _mm_and_pd(y, sign)));
+    }
+}
+
+// Four source values to four int32 lanes inside TDst's range.
+template <class TSrc, class TDst, int M, bool Scaled>
+struct Quad;
+
+template <class TDst, int M, bool Scaled>
+struct Quad<float, TDst, M, Scaled> {
+    __m128 f;
+    explicit Quad(float factor) : f(_mm_set1_ps(factor)) {}
+    __m128i operator()(const float* p) const {
+        __m128 y = _mm_loadu_ps(p);
+        if (Scaled) y = _mm_mul_ps(y, f);
+        if constexpr (sizeof(TDst) == 4) {
+            // 2^31 is no float's rounded neighbour: at or above it (and NaN)
+            // the result is the maximum; below -2^31 the conversion's own
+            // out-of-range answer is already the minimum.
+            const __m128 big = _mm_cmpnlt_ps(y, _mm_set1_ps(2147483648.0f));
+            return _mm_blendv_epi8(roundToInt<M>(y), _mm_set1_epi32(0x7FFFFFFF), _mm_castps_si128(big));
+        } else {
+            y = _mm_min_ps(y, _mm_set1_ps(static_cast<float>(Range<TDst>::hi)));  // NaN takes the bound
+            y = _mm_max_ps(y, _mm_set1_ps(static_cast<float>(Range<TDst>::lo)));
+            return roundToInt<M>(y);
+        }
+    }
+};
+
+template <class TDst, int M, bool Scaled>
+struct Quad<double, TDst, M, Scaled> {
+    __m128d f;
+    explicit Quad(double factor) : f(_mm_set1_pd(factor)) {}
+    __m128i pair(const double* p) const {
+        __m128d y = _mm_loadu_pd(p);
+        if (Scaled) y = _mm_mul_pd(y, f);
+        y = _mm_min_pd(y, _mm_set1_pd(static_cast<double>(Range<TDst>::hi)));  // NaN takes the bound
+        y = _mm_max_pd(y, _mm_set1_pd(static_cast<double>(Range<TDst>::lo)));
+        return roundToInt<M>(y);
+    }
+    __m128i operator()(const double* p) const { return _mm_unpacklo_epi64(pair(p), pair(p + 2)); }
+};
+
+// pSrc[0, n) to pDst, TDst one of T8u, T8s, T16u, T16s, T32s.
+template <class TSrc, class TDst, int M, bool Scaled>
+inline void floatToInt(const TSrc* pSrc, TDst* pDst, size_t n, TSrc factor) {
+    const Quad<TSrc, TDst, M, Scaled> q(factor);
+    size_t i = 0;
+    __m128i* d = reinterpret_cast<__m128i*>(pDst);
+    if constexpr (sizeof(TDst) == 4) {
+        for (; i + 8 <= n; i += 8, d += 2) {
+            const __m128i a = q(pSrc + i), b = q(pSrc + i + 4);
+            _mm_storeu_si128(d, a);
+            _mm_storeu_si128(d + 1, b);
+        }
+    } else if constexpr (sizeof(TDst) == 2) {
+        for (; i + 8 <= n; i += 8, ++d) {
+            const __m128i a = q(pSrc + i), b = q(pSrc + i + 4);
+            // The lanes are in range already, so the packs only narrow.
+            _mm_storeu_si128(d, std::is_signed<TDst>::value ? _mm_packs_epi32(a, b) : _mm_packus_epi32(a, b));
+        }
+    } else {
+        for (; i + 16 <= n; i += 16, ++d) {
+            const __m128i a = _mm_packs_epi32(q(pSrc + i), q(pSrc + i + 4));
+            const __m128i b = _mm_packs_epi32(q(pSrc + i + 8), q(pSrc + i + 12));
+            _mm_storeu_si128(d, std::is_signed<TDst>::value ? _mm_packs_epi16(a, b) : _mm_packus_epi16(a, b));
+        }
+    }
+    floatToIntScalar<TSrc, TDst, M, Scaled>(pSrc + i, pDst + i, n - i, factor);
+}
+
+}  // namespace kern
+}  // namespace veks

@@ -1,0 +1,138 @@
+// Loops that turn 8-, 16-, 32- and 64-bit integers into single- or
+// double-precision values, optionally multiplied by a power of two, and
+// the loops between the two floating types. Conversions that can round
+// (32-bit integers to single precision, 64-bit integers to double, double
+// to single) round by the processor's setting, which the caller sets to
+// nearest. The factor is a normal power of two and the caller keeps the
+// product in the normal range, so scaling after the conversion equals
+// rounding the exact scaled value once. Each loop's scalar twin is its tail.
+#pragma once
+
+#include <smmintrin.h>
+#include <stddef.h>
+#include <stdint.h>
+
+#include <type_traits>
+
+#include "veks.h"
+
+namespace veks {
+namespace kern {
+
+// 64-bit integer to double with a single rounding: both halves convert
+// exactly and the sum rounds once.
+inline double int64ToDouble(int64_t x) {
+    const int32_t hi = static_cast<int32_t>(x >> 32);
+    const uint32_t lo = static_cast<uint32_t>(x);
+    return static_cast<double>(hi) * 4294967296.0 + static_cast<double>(lo);
+}
+
+template <class TSrc, class TDst>
+inline TDst toFloat(TSrc x) {
+    if constexpr (sizeof(TSrc) == 8)
+        return static_cast<TDst>(int64ToDouble(x));
+    else
+        return static_cast<TDst>(x);
+}
+
+template <class TSrc, class TDst, bool Scaled>
+inline void intToFloatScalar(const TSrc* pSrc, TDst* pDst, size_t n, TDst factor) {
+    for (size_t i = 0; i < n; ++i) {
+        TDst v = toFloat<TSrc, TDst>(pSrc[i]);
+        if (Scaled) v *= factor;
+        pDst[i] = v;
+    }
+}
+
+// Four source integers starting at p widened to int32 lanes.
+template <class TSrc>
+inline __m128i load4(const TSrc* p) {
+    if constexpr (sizeof(TSrc) == 4) {
+        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+    } else if constexpr (sizeof(TSrc) == 2) {
+        const __m128i v = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+        return std::is_signed<TSrc>::value ? _mm_cvtepi16_epi32(v) : _mm_cvtepu16_epi32(v);
+    } else {
+        int32_t w;
+        __builtin_memcpy(&w, p, 4);
+        const __m128i v = _mm_cvtsi32_si128(w);
+        return std::is_signed<TSrc>::value ? _mm_cvtepi8_epi32(v) : _mm_cvtepu8_epi32(v);
+    }
+}
+
+inline void store4(float* p, __m128i v, __m128 f, bool scaled) {
+    __m128 y = _mm_cvtepi32_ps(v);
+    if (scaled) y = _mm_mul_ps(y, f);
+    _mm_storeu_ps(p, y);
+}
+
+inline void store4(double* p, __m128i v, __m128d f, bool scaled) {
+    __m128d a = _mm_cvtepi32_pd(v), b = _mm_cvtepi32_pd(_mm_unpackhi_epi64(v, v));
+    if (scaled) {
+        a = _mm_mul_pd(a, f);
+        b = _mm_mul_pd(b, f);
+    }
+    _mm_storeu_pd(p, a);
+    _mm_storeu_pd(p + 2, b);
+}
+
+// Two 64-bit integers to two doubles, rounding once as int64ToDouble does:
+// the low halves go through a biased signed conversion, the high halves
+// convert exactly and carry 2^32.
+inline __m128d int64PairToDouble(__m128i v) {
+    const __m128i his = _mm_shuffle_epi32(v, _MM_SHUFFLE(3, 1, 3, 1));
+    const __m128i los = _mm_xor_si128(_mm_shuffle_epi32(v, _MM_SHUFFLE(2, 0, 2, 0)), _mm_set1_epi32(INT32_MIN));
+    const __m128d hi = _mm_mul_pd(_mm_cvtepi32_pd(his), _mm_set1_pd(4294967296.0));
+    const __m128d lo = _mm_add_pd(_mm_cvtepi32_pd(los), _mm_set1_pd(2147483648.0));  // exact
+    return _mm_add_pd(hi, lo);
+}
+
+// pSrc[0, n) to pDst, TSrc one of T8u, T8s, T16u, T16s, T32s, T64s.
+template <class TSrc, class TDst, bool Scaled>
+inline void intToFloat(const TSrc* pSrc, TDst* pDst, size_t n, TDst factor) {
+    size_t i = 0;
+    if constexpr (sizeof(TSrc) == 8) {
+        const __m128d f = _mm_set1_pd(factor);
+        for (; i + 2 <= n; i += 2) {
+            __m128d y = int64PairToDouble(_mm_loadu_si128(reinterpret_cast<const __m128i*>(pSrc + i)));
+            if (Scaled) y = _mm_mul_pd(y, f);
+            _mm_storeu_pd(pDst + i, y);
+        }
+    } else {
+        const auto f = [&] {
+            if constexpr (sizeof(TDst) == 4)
+                return _mm_set1_ps(factor);
+            else
+                return _mm_set1_pd(factor);
+        }();
+        for (; i + 8 <= n; i += 8) {
+            const __m128i a = load4(pSrc + i), b = load4(pSrc + i + 4);
+            store4(pDst + i, a, f, Scaled);
+            store4(pDst + i + 4, b, f, Scaled);
+        }
+    }
+    intToFloatScalar<TSrc, TDst, Scaled>(pSrc + i, pDst + i, n - i, factor);
+}
+
+// Single to double (exact) and double to single (rounded by the setting).
+inline void floatToDouble(const float* pSrc, double* pDst, size_t n) {
+    size_t i = 0;
+    for (; i + 4 <= n; i += 4) {
+        const __m128 v = _mm_loadu_ps(pSrc + i);
+        _mm_storeu_pd(pDst + i, _mm_cvtps_pd(v));
+        _mm_storeu_pd(pDst + i + 2, _mm_cvtps_pd(_mm_movehl_ps(v, v)));
+    }
+    for (; i < n; ++i) pDst[i] = pSrc[i];
+}
+
+inline void doubleToFloat(const double* pSrc, float* pDst, size_t n) {
+    size_t i = 0;
+    for (; i + 4 <= n; i += 4) {
+        const __m128 a = _mm_cvtpd_ps(_mm_loadu_pd(pSrc + i)), b = _mm_cvtpd_ps(_mm_loadu_pd(pSrc + i + 2));
+        _mm_storeu_ps(pDst + i, _mm_movelh_ps(a, b));
+    }
+    for (; i < n; ++i) pDst[i] = static_cast<float>(pSrc[i]);
+}
+
+}  // namespace kern
+}  // namespace veks
