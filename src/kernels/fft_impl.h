@@ -53,8 +53,8 @@ void stockhamSplit(SplitPtr<const T> src, SplitPtr<T> dst, SplitPtr<T> scratch, 
 
 template <class T>
 void smallTransform(const Cx<T>* src, Cx<T>* dst, int order, bool inverse) {
-    Cx<T> tw[1024];
-    Cx<T> scratch[1024];
+    Cx<T> tw[36];      // stageTwiddleCount(5)
+    Cx<T> scratch[32];
     const size_t N = size_t(1) << order;
     fillStageTwiddles<T>(tw, order, [N](size_t i, double& c, double& s) {
         quarterCosSin(kQuarterSine1024, 1024 / N, N, i, c, s);
@@ -82,37 +82,42 @@ void twistRow(Cx<T>* row, size_t cols, size_t r, const Cx<T>* half, size_t N, bo
     }
 }
 
+// The real split passes, vectorised over W consecutive k with their
+// partners m-k loaded in reverse; the scalar policy finishes the pairs that
+// would meet inside one vector (and the self-paired k = m/2). The vector and
+// scalar forms perform the same operations, so they agree bit for bit.
+template <class P, bool Inverse>
+void realSplit(Cx<typename P::T>* z, size_t m, const Cx<typename P::T>* A, size_t k0, size_t k1) {
+    using V = typename P::V;
+    const size_t W = P::W;
+    size_t k = k0;
+    for (; k + W <= k1 && (W == 1 ? 2 * k <= m : 2 * k + 2 * W - 2 < m); k += W) {
+        const size_t kp = m - k - (W - 1);
+        const V zk = P::load(z, k), zp = P::rev(P::load(z, kp));
+        const V d = P::sub(zk, P::conj(zp));  // (zk.re - zp.re, zk.im + zp.im)
+        const V e = P::sub(zp, P::conj(zk));
+        V xk, xp;
+        if (!Inverse) {
+            xk = P::add(P::conj(zp), P::mul(d, P::template twLoad<false>(A + (k - k0))));
+            xp = P::add(P::conj(zk), P::mul(e, P::template twLoad<true>(A + (k - k0))));
+        } else {
+            xk = P::scale(P::add(P::conj(zp), P::mul(d, P::template twLoad<true>(A + (k - k0)))), 2);
+            xp = P::scale(P::add(P::conj(zk), P::mul(e, P::template twLoad<false>(A + (k - k0)))), 2);
+        }
+        P::store(z, k, xk);
+        P::store(z, kp, P::rev(xp));
+    }
+    if (W > 1 && k < k1) realSplit<ScalarPolicy<typename P::T>, Inverse>(z, m, A + (k - k0), k, k1);
+}
+
 template <class T>
 void realSplitForward(Cx<T>* z, size_t m, const Cx<T>* A, size_t k0, size_t k1) {
-    for (size_t k = k0; k < k1; ++k) {
-        const size_t kp = m - k;
-        const Cx<T> zk = z[k], zp = z[kp], a = A[k - k0];
-        // X[k] = conj zp + a (zk - conj zp)
-        const T dr = zk.re - zp.re, di = zk.im + zp.im;
-        const Cx<T> xk{zp.re + (a.re * dr - a.im * di), -zp.im + (a.re * di + a.im * dr)};
-        // X[m-k] = conj zk + conj a (zp - conj zk)
-        const T er = zp.re - zk.re, ei = zp.im + zk.im;
-        const Cx<T> xp{zk.re + (a.re * er + a.im * ei), -zk.im + (a.re * ei - a.im * er)};
-        z[k] = xk;
-        z[kp] = xp;
-    }
+    realSplit<typename PoliciesOf<T>::Interleaved, false>(z, m, A, k0, k1);
 }
 
 template <class T>
 void realSplitInverse(Cx<T>* z, size_t m, const Cx<T>* A, size_t k0, size_t k1) {
-    for (size_t k = k0; k < k1; ++k) {
-        const size_t kp = m - k;
-        const Cx<T> xk = z[k], xp = z[kp];
-        const T ar = 2 * A[k - k0].re, ai = 2 * A[k - k0].im;
-        // Z'[k] = 2 conj xp + 2 conj a (xk - conj xp)
-        const T dr = xk.re - xp.re, di = xk.im + xp.im;
-        const Cx<T> zk{2 * xp.re + (ar * dr + ai * di), -2 * xp.im + (ar * di - ai * dr)};
-        // Z'[m-k] = 2 conj xk + 2 a (xp - conj xk)
-        const T er = xp.re - xk.re, ei = xp.im + xk.im;
-        const Cx<T> zp{2 * xk.re + (ar * er - ai * ei), -2 * xk.im + (ar * ei + ai * er)};
-        z[k] = zk;
-        z[kp] = zp;
-    }
+    realSplit<typename PoliciesOf<T>::Interleaved, true>(z, m, A, k0, k1);
 }
 
 }  // namespace fft

@@ -47,6 +47,9 @@ struct ScalarPolicy {
         y[i + 2] = c;
         y[i + 3] = d;
     }
+    static V scale(V v, T c) { return {v.re * c, v.im * c}; }
+    static V conj(V v) { return {v.re, -v.im}; }
+    static V rev(V v) { return v; }
     static Buf offset(Buf b, size_t i) { return b + i; }
     static bool same(CBuf a, CBuf b) { return a == b; }
     static void copy(CBuf src, Buf dst, size_t n) { memcpy(dst, src, n * sizeof(Cx<T>)); }
@@ -96,6 +99,9 @@ struct InterleavedF32 {
         store(y, i + 4, _mm_movehl_ps(b, a));
         store(y, i + 6, _mm_movehl_ps(d, c));
     }
+    static V scale(V v, float c) { return _mm_mul_ps(v, _mm_set1_ps(c)); }
+    static V conj(V v) { return _mm_xor_ps(v, _mm_castsi128_ps(_mm_set_epi32(int(0x80000000), 0, int(0x80000000), 0))); }
+    static V rev(V v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(1, 0, 3, 2)); }
     static Buf offset(Buf b, size_t i) { return b + i; }
     static bool same(CBuf a, CBuf b) { return a == b; }
     static void copy(CBuf src, Buf dst, size_t n) { memcpy(dst, src, n * sizeof(Cx<float>)); }
@@ -139,6 +145,9 @@ struct InterleavedF64 {
         store(y, i + 2, c);
         store(y, i + 3, d);
     }
+    static V scale(V v, double c) { return _mm_mul_pd(v, _mm_set1_pd(c)); }
+    static V conj(V v) { return _mm_xor_pd(v, _mm_set_pd(-0.0, 0.0)); }
+    static V rev(V v) { return v; }
     static Buf offset(Buf b, size_t i) { return b + i; }
     static bool same(CBuf a, CBuf b) { return a == b; }
     static void copy(CBuf src, Buf dst, size_t n) { memcpy(dst, src, n * sizeof(Cx<double>)); }
@@ -190,6 +199,7 @@ struct SplitF32 {
         store(y, i + 8, c);
         store(y, i + 12, d);
     }
+    static V scale(V v, float c) { return {_mm_mul_ps(v.re, _mm_set1_ps(c)), _mm_mul_ps(v.im, _mm_set1_ps(c))}; }
     static Buf offset(Buf b, size_t i) { return {b.re + i, b.im + i}; }
     static bool same(CBuf a, Buf b) { return a.re == b.re || a.im == b.im || a.re == b.im || a.im == b.re; }
     static void copy(CBuf src, Buf dst, size_t n) {
@@ -242,6 +252,7 @@ struct SplitF64 {
         store(y, i + 4, {_mm_unpackhi_pd(a.re, b.re), _mm_unpackhi_pd(a.im, b.im)});
         store(y, i + 6, {_mm_unpackhi_pd(c.re, d.re), _mm_unpackhi_pd(c.im, d.im)});
     }
+    static V scale(V v, double c) { return {_mm_mul_pd(v.re, _mm_set1_pd(c)), _mm_mul_pd(v.im, _mm_set1_pd(c))}; }
     static Buf offset(Buf b, size_t i) { return {b.re + i, b.im + i}; }
     static bool same(CBuf a, Buf b) { return a.re == b.re || a.im == b.im || a.re == b.im || a.im == b.re; }
     static void copy(CBuf src, Buf dst, size_t n) {
@@ -328,7 +339,37 @@ void pass2(In x, typename P::Buf y, size_t s) {
     }
 }
 
+// The closing radix-8 pass of an odd order (n = 8, no outer twiddles): two
+// 4-point transforms of the even and odd inputs joined by w8^k, where
+// w8 z = (z + rot z) / sqrt(2), w8^2 z = rot z and w8^3 z = rot(w8 z).
+template <class P, bool Inv, class In>
+void pass8(In x, typename P::Buf y, size_t s) {
+    using V = typename P::V;
+    const typename P::T c = static_cast<typename P::T>(0.70710678118654752440);
+    const typename P::Tw one{};
+    for (size_t q = 0; q < s; q += P::W) {
+        V e0, e1, e2, e3, o0, o1, o2, o3;
+        butterfly4<P, Inv, false>(P::load(x, q), P::load(x, q + 2 * s), P::load(x, q + 4 * s), P::load(x, q + 6 * s),
+                                  one, one, one, e0, e1, e2, e3);
+        butterfly4<P, Inv, false>(P::load(x, q + s), P::load(x, q + 3 * s), P::load(x, q + 5 * s),
+                                  P::load(x, q + 7 * s), one, one, one, o0, o1, o2, o3);
+        const V t1 = P::scale(P::add(o1, P::template rot<Inv>(o1)), c);
+        const V t2 = P::template rot<Inv>(o2);
+        const V t3 = P::template rot<Inv>(P::scale(P::add(o3, P::template rot<Inv>(o3)), c));
+        P::store(y, q, P::add(e0, o0));
+        P::store(y, q + 4 * s, P::sub(e0, o0));
+        P::store(y, q + s, P::add(e1, t1));
+        P::store(y, q + 5 * s, P::sub(e1, t1));
+        P::store(y, q + 2 * s, P::add(e2, t2));
+        P::store(y, q + 6 * s, P::sub(e2, t2));
+        P::store(y, q + 3 * s, P::add(e3, t3));
+        P::store(y, q + 7 * s, P::sub(e3, t3));
+    }
+}
+
 // All passes of one order; see stockham() in fft_kernel.h for the buffers.
+// Radix-4 passes, an odd order closing with one radix-8 pass (order 1: one
+// radix-2 pass).
 template <class P, bool Inv>
 void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratch, int order, size_t lanes,
                const Cx<typename P::T>* tw) {
@@ -337,7 +378,7 @@ void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratc
         if (!P::same(src, dst)) P::copy(src, dst, total);
         return;
     }
-    const int passes = order / 2 + (order & 1);
+    const int passes = order == 1 ? 1 : order / 2;
     bool fromScratch = false;
     if (P::same(src, dst) && (passes & 1)) {
         P::copy(src, scratch, total);
@@ -349,7 +390,13 @@ void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratc
     typename P::Buf in = fromScratch ? scratch : dst;  // valid once pass 1 has run
     for (int i = 1; i <= passes; ++i) {
         typename P::Buf out = ((passes - i) & 1) ? scratch : dst;
-        if (n >= 2) {
+        if (n == 3) {
+            if (i == 1 && !fromScratch)
+                pass8<P, Inv>(src, out, s);
+            else
+                pass8<P, Inv>(in, out, s);
+            n = 0;
+        } else if (n >= 2) {
             const size_t m = size_t(1) << (n - 2);
             if (i == 1 && !fromScratch) {
                 if (s < P::W)
