@@ -2,6 +2,8 @@
 // fft_32f.cpp and fft_64f.cpp.
 #pragma once
 
+#include <type_traits>
+
 #include "kernels/fft_passes.h"
 
 namespace veks {
@@ -51,18 +53,44 @@ void stockhamSplit(SplitPtr<const T> src, SplitPtr<T> dst, SplitPtr<T> scratch, 
         runPasses<P, false>(src, dst, scratch, order, 1, tw);
 }
 
-template <class T>
-void smallTransform(const Cx<T>* src, Cx<T>* dst, int order, bool inverse) {
-    Cx<T> tw[36];      // stageTwiddleCount(5)
-    Cx<T> scratch[32];
-    const size_t N = size_t(1) << order;
-    fillStageTwiddles<T>(tw, order, [N](size_t i, double& c, double& s) {
+// Stage twiddles of the short orders, built at compile time from the
+// constant table (the same values fillStageTwiddles gives at run time).
+template <class T, int Order>
+struct SmallTwiddles {
+    Cx<T> v[stageTwiddleCount(Order) > 0 ? stageTwiddleCount(Order) : 1];
+};
+template <class T, int Order>
+constexpr SmallTwiddles<T, Order> makeSmallTwiddles() {
+    SmallTwiddles<T, Order> t{};
+    constexpr size_t N = size_t(1) << Order;
+    fillStageTwiddles<T>(t.v, Order, [](size_t i, double& c, double& s) {
         quarterCosSin(kQuarterSine1024, 1024 / N, N, i, c, s);
     });
+    return t;
+}
+
+template <class T, int Order>
+void smallOrder(const Cx<T>* src, Cx<T>* dst, bool inverse) {
+    static constexpr SmallTwiddles<T, Order> tw = makeSmallTwiddles<T, Order>();
+    Cx<T> scratch[size_t(1) << Order];
+    using P = typename std::conditional<(Order >= kVectorMinOrder), typename PoliciesOf<T>::Interleaved,
+                                        ScalarPolicy<T>>::type;
     if (inverse)
-        runPasses<ScalarPolicy<T>, true>(src, dst, scratch, order, 1, tw);
+        runPasses<P, true>(src, dst, scratch, Order, 1, tw.v);
     else
-        runPasses<ScalarPolicy<T>, false>(src, dst, scratch, order, 1, tw);
+        runPasses<P, false>(src, dst, scratch, Order, 1, tw.v);
+}
+
+template <class T>
+void smallTransform(const Cx<T>* src, Cx<T>* dst, int order, bool inverse) {
+    switch (order) {
+        case 0: smallOrder<T, 0>(src, dst, inverse); break;
+        case 1: smallOrder<T, 1>(src, dst, inverse); break;
+        case 2: smallOrder<T, 2>(src, dst, inverse); break;
+        case 3: smallOrder<T, 3>(src, dst, inverse); break;
+        case 4: smallOrder<T, 4>(src, dst, inverse); break;
+        default: smallOrder<T, 5>(src, dst, inverse); break;
+    }
 }
 
 template <class T>

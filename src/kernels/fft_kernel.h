@@ -18,11 +18,9 @@
 #include <stddef.h>
 #include <stdint.h>
 
+#include "kernels/fft_quarter_table.h"
+
 namespace veks {
-
-// sin(2*pi*k/1024), k = 0..256 (fft_quarter_table.cpp).
-extern const double kQuarterSine1024[257];
-
 namespace fft {
 
 template <class T>
@@ -38,7 +36,7 @@ struct SplitPtr {
 };
 
 // Complex twiddles of all radix-4 passes of an order.
-inline size_t stageTwiddleCount(int order) {
+constexpr size_t stageTwiddleCount(int order) {
     size_t count = 0;
     for (int n = order; n >= 2; n -= 2) {
         const size_t m = size_t(1) << (n - 2);
@@ -50,7 +48,7 @@ inline size_t stageTwiddleCount(int order) {
 // Fills the stage twiddles of an order from cs(i), which gives cos and sin of
 // 2*pi*i/N for i in [0, N); forward twiddles are cos - i*sin.
 template <class T, class CosSin>
-void fillStageTwiddles(Cx<T>* tw, int order, CosSin cs) {
+constexpr void fillStageTwiddles(Cx<T>* tw, int order, CosSin cs) {
     size_t at = 0;
     for (int n = order; n >= 2; n -= 2) {
         const size_t m = size_t(1) << (n - 2);
@@ -58,7 +56,7 @@ void fillStageTwiddles(Cx<T>* tw, int order, CosSin cs) {
         const size_t step = size_t(1) << (order - n);  // N / n
         for (size_t p = 0; p < m; ++p) {
             for (size_t j = 0; j < 3; ++j) {
-                double c, s;
+                double c = 0, s = 0;
                 cs((j + 1) * p * step, c, s);
                 Cx<T>& w = tw[at + (p / 4) * 12 + j * 4 + (p % 4)];
                 w.re = static_cast<T>(c);
@@ -72,7 +70,7 @@ void fillStageTwiddles(Cx<T>* tw, int order, CosSin cs) {
 // cos and sin of 2*pi*i/N from a quarter-wave sine table q[k] = sin(2*pi*k/N),
 // k = 0..N/4, read with a stride (q[k] is table[k * stride]).
 template <class TTab>
-inline void quarterCosSin(const TTab* table, size_t stride, size_t N, size_t i, double& c, double& s) {
+constexpr void quarterCosSin(const TTab* table, size_t stride, size_t N, size_t i, double& c, double& s) {
     const size_t Q = N / 4;
     auto q = [&](size_t k) { return static_cast<double>(table[k * stride]); };
     if (i <= Q) {
@@ -104,8 +102,9 @@ template <class T>
 void stockhamSplit(SplitPtr<const T> src, SplitPtr<T> dst, SplitPtr<T> scratch, int order, const Cx<T>* tw,
                    bool inverse);
 
-// Plain scalar transform of a short length (orders up to 10) whose twiddles
-// come from the constant 1,024-point table; needs no scratch from the caller.
+// The fixed-length transforms of orders 0-5, on twiddles taken at compile
+// time from the constant 1,024-point table; they need no scratch from the
+// caller.
 template <class T>
 void smallTransform(const Cx<T>* src, Cx<T>* dst, int order, bool inverse);
 

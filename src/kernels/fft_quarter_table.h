@@ -3,11 +3,11 @@
 // the complementary angle so that every argument stays at most pi/4, and
 // entry 256 exactly 1. Specs of orders up to 10 stride through it, so they
 // need no init buffer and no trigonometric call.
-#include "kernels/fft_kernel.h"
+#pragma once
 
 namespace veks {
 
-const double kQuarterSine1024[257] = {
+inline constexpr double kQuarterSine1024[257] = {
     0, 0.0061358846491544753, 0.012271538285719925,
     0.01840672990580482, 0.024541228522912288, 0.030674803176636626,
     0.036807222941358832, 0.04293825693494082, 0.049067674327418015,
