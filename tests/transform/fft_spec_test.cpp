@@ -55,7 +55,9 @@ TEST(FftSpec, TwoLevelOrdersCarryTheirExtraTables) {
         EXPECT_EQ(s.spec, in.spec + 4 * N + (order >= 19 ? (int64_t(4) << (order - 12)) + 4160 : 0)) << order;
         EXPECT_EQ(s.init, ((N + 67) & ~int64_t(63)) + 64 + in.init) << order;
         EXPECT_GE(s.work, int64_t(8) << (order <= 20 ? 10 : 14)) << order;
-        if (order >= 19) EXPECT_GE(s.work, 65536) << order;
+        if (order >= 19) {
+            EXPECT_GE(s.work, 65536) << order;
+        }
     }
     for (int m = 20; m <= 29; ++m) {
         const ref::Sizes r = query(veksFFTGetSize_R_32f, m), c = query(veksFFTGetSize_C_32fc, m - 1);
@@ -120,7 +122,9 @@ TEST(FftSpec, SizeQueryChecksInOrder) {
         int a = -7, b = -7, w = -7;
         const VekResult r = c.fn(c.order, c.flag, 0, &a, c.nullPtr ? nullptr : &b, &w);
         EXPECT_EQ(r, c.want) << c.order << " " << c.flag;
-        if (r != VEK_OK) EXPECT_EQ(a, -7);  // nothing written
+        if (r != VEK_OK) {
+            EXPECT_EQ(a, -7);  // nothing written
+        }
     }
 }
 
