@@ -30,6 +30,7 @@ struct InterleavedData {
     Cx<T>* rowTarget(size_t off, Cx<T>*) const { return p + off; }
     void commitRow(size_t, const Cx<T>*, size_t) const {}
     void loadRow(size_t off, Cx<T>* to, size_t n) const { memcpy(to, p + off, n * sizeof(Cx<T>)); }
+    void storeRow(size_t off, const Cx<T>* from, size_t n) const { memcpy(p + off, from, n * sizeof(Cx<T>)); }
     Cx<T> get(size_t i) const { return p[i]; }
     void set(size_t i, Cx<T> v) const { p[i] = v; }
     bool rowsAreDirect() const { return true; }
@@ -47,6 +48,7 @@ struct SplitData {
     void loadRow(size_t off, Cx<T>* to, size_t n) const {
         for (size_t i = 0; i < n; ++i) to[i] = {p.re[off + i], p.im[off + i]};
     }
+    void storeRow(size_t off, const Cx<T>* from, size_t n) const { commitRow(off, from, n); }
     Cx<T> get(size_t i) const { return {p.re[i], p.im[i]}; }
     void set(size_t i, Cx<T> v) const {
         p.re[i] = v.re;
@@ -65,23 +67,41 @@ struct SplitSource {
     Cx<T> get(size_t i) const { return {p.re[i], p.im[i]}; }
 };
 
-// In-place transposition of an R x C matrix (C = 2^k columns) by following
-// the cycles of the index rotation i -> rotr(i, k) over `order` bits.
+// In-place transposition of an R x C matrix (C = 2^k columns, R = L*C rows)
+// in two cache-friendly steps: every C x C block is transposed in place;
+// then the chunks of C values, an L x C arrangement, are transposed by
+// following the cycles of the chunk-index rotation u -> rotr(u, k). tmp holds
+// two chunks.
 template <class T, class D>
-void transposeInPlace(const D& d, int order, int k) {
-    const size_t N = size_t(1) << order, mask = N - 1;
-    auto dest = [&](size_t i) { return ((i >> k) | (i << (order - k))) & mask; };
-    for (size_t i = 1; i + 1 < N; ++i) {
-        size_t j = dest(i);
-        while (j > i) j = dest(j);
-        if (j < i) continue;  // not the smallest index of its cycle
-        Cx<T> carry = d.get(i);
-        for (size_t c = dest(i); c != i; c = dest(c)) {
-            const Cx<T> t = d.get(c);
-            d.set(c, carry);
-            carry = t;
+void transposeInPlace(const D& d, int order, int k, Cx<T>* tmp) {
+    const size_t C = size_t(1) << k, N = size_t(1) << order, U = N / C;
+    for (size_t base = 0; base < N; base += C * C) {
+        for (size_t i = 0; i < C; ++i) {
+            for (size_t j = i + 1; j < C; ++j) {
+                const Cx<T> a = d.get(base + i * C + j), b = d.get(base + j * C + i);
+                d.set(base + i * C + j, b);
+                d.set(base + j * C + i, a);
+            }
         }
-        d.set(i, carry);
+    }
+    const int bits = order - k;
+    const size_t mask = U - 1;
+    auto dest = [&](size_t u) { return ((u >> k) | (u << (bits - k))) & mask; };
+    Cx<T>* carry = tmp;
+    Cx<T>* held = tmp + C;
+    for (size_t u = 1; u + 1 < U; ++u) {
+        size_t j = dest(u);
+        while (j > u) j = dest(j);
+        if (j < u) continue;  // not the smallest index of its cycle
+        d.loadRow(u * C, carry, C);
+        for (size_t c = dest(u); c != u; c = dest(c)) {
+            d.loadRow(c * C, held, C);
+            d.storeRow(c * C, carry, C);
+            Cx<T>* t = carry;
+            carry = held;
+            held = t;
+        }
+        d.storeRow(u * C, carry, C);
     }
 }
 
@@ -115,7 +135,7 @@ void twoLevel(const View<T>& v, size_t top, int order, const S& src, bool inPlac
             }
         }
     } else {
-        transposeInPlace<T>(dst, order, k);
+        transposeInPlace<T>(dst, order, k, gather);
         for (size_t n1 = 0; n1 < N1; ++n1) {
             Cx<T>* row = gather;
             if (dst.rowsAreDirect())
