@@ -65,10 +65,10 @@ inline long double factor(int flag, bool inverse, int order) {
 constexpr int kFlags[] = {VEK_FFT_SCALE_NONE, VEK_FFT_SCALE_FWD, VEK_FFT_SCALE_INV, VEK_FFT_SCALE_SQRT};
 
 // Error bound of a transform of length 2^order: each radix level adds a
-// few roundings of the element precision to every output, and an output's
-// magnitude is at most ||x||_2 * sqrt(N) while its rounding error grows like
-// ||x||_2 * eps * log2(N). The factor 4 covers the twiddles' own rounding
-// and the separate scaling pass.
+// few roundings of the element precision, so the error grows like
+// eps * log2(N) times the norm it is measured against (||X||_2 for the
+// whole error vector; ||x||_2 for one output of a spread spectrum). The
+// factor 4 covers the twiddles' own rounding and the separate scaling pass.
 inline long double bound(long double eps, int order, long double norm2, long double scale) {
     return 4.0L * eps * static_cast<long double>(order + 1) * norm2 * scale + 1e-300L;
 }
@@ -140,6 +140,16 @@ inline std::vector<CLD> reference(const std::vector<CLD>& x, bool inverse) {
 #else
     return {};
 #endif
+}
+
+// ||got - want * scale||_2: the normwise error of a whole transform. The
+// rounding error of an FFT is bounded normwise, ||e||_2 <= c eps log2(N)
+// ||X||_2, whatever the input; element-wise bounds only hold for spread
+// spectra.
+inline long double l2Error(const std::vector<CLD>& got, const std::vector<CLD>& want, long double scale) {
+    long double e = 0;
+    for (size_t i = 0; i < got.size(); ++i) e += std::norm(got[i] - want[i] * scale);
+    return sqrtl(e);
 }
 
 inline long double maxError(const std::vector<CLD>& got, const std::vector<CLD>& want, long double scale) {
