@@ -2,17 +2,17 @@
 // vector vocabulary (one policy per element type and data layout) and
 // compiled once per element type in fft_32f.cpp and fft_64f.cpp.
 //
-// The passes are self-sorting (Stockham): each radix-4 pass reads one buffer
-// and writes the other, so the result comes out in natural order without a
-// reordering pass. A pass over a sequence of length n that holds s
-// interleaved sub-sequences reads x[q + s*(p + j*m)] (m = n/4, j = 0..3) and
-// writes y[q + s*(4p + j)]; the next pass works on n/4 with 4s. An odd order
-// ends with one radix-2 pass without twiddles.
+// The passes are self-sorting (Stockham): each pass reads one buffer and
+// writes the other, so the result comes out in natural order without a
+// reordering pass. A radix-R pass over a sequence of length n that holds s
+// interleaved sub-sequences reads x[q + s*(p + j*m)] (m = n/R, j < R) and
+// writes y[q + s*(R*p + k)] = w^(pk) * (R-point DFT)_k; the next pass works on
+// n/R with R*s. Radix-8 passes do most of the work (passCount below).
 //
-// Stage twiddles live in one table per order: for every radix-4 pass with
-// m >= 2, groups of four p hold w^p, w^2p, w^3p (w = e^(-2*pi*i/n)) as
-// [w1 x4][w2 x4][w3 x4], so that a pass can load consecutive p or broadcast
-// one. The inverse multiplies by the conjugates. No status, no allocation.
+// Stage twiddles live in one table per order: for every pass with m >= 2,
+// groups of four p hold w^p .. w^((R-1)p) (w = e^(-2*pi*i/n)) as
+// [w1 x4][w2 x4]..., so that a pass can load consecutive p or broadcast one.
+// The inverse multiplies by the conjugates. No status, no allocation.
 #pragma once
 
 #include <stddef.h>
@@ -35,12 +35,32 @@ struct SplitPtr {
     T* im;
 };
 
-// Complex twiddles of all radix-4 passes of an order.
+// The passes of an order, as the base-2 logarithms of their radices:
+// radix-8 passes, then what is left: nothing, one radix-4 pass, or (for
+// orders 3k+1) two radix-4 passes in place of a radix-8 and a radix-2
+// (order 1 alone is one radix-2 pass).
+constexpr int passCount(int order) {
+    if (order <= 2) return order == 0 ? 0 : 1;
+    const int r = order % 3;
+    return order / 3 + (r == 0 ? 0 : 1);
+}
+constexpr int passRadixLog(int order, int i) {
+    if (order <= 2) return order;
+    const int r = order % 3, eights = order / 3 - (r == 1 ? 1 : 0);
+    return i < eights ? 3 : 2;
+}
+
+// Complex twiddles of all passes of an order: a pass of radix R over
+// sub-length n (m = n/R) with m >= 2 keeps, for every group of four p,
+// [w^p x4][w^2p x4] ... [w^((R-1)p) x4], w = e^(-2*pi*i/n).
 constexpr size_t stageTwiddleCount(int order) {
     size_t count = 0;
-    for (int n = order; n >= 2; n -= 2) {
-        const size_t m = size_t(1) << (n - 2);
-        if (m >= 2) count += 12 * ((m + 3) / 4);
+    int n = order;
+    for (int i = 0; i < passCount(order); ++i) {
+        const int rl = passRadixLog(order, i);
+        const size_t R = size_t(1) << rl, m = size_t(1) << (n - rl);
+        if (m >= 2) count += (R - 1) * 4 * ((m + 3) / 4);
+        n -= rl;
     }
     return count;
 }
@@ -50,20 +70,24 @@ constexpr size_t stageTwiddleCount(int order) {
 template <class T, class CosSin>
 constexpr void fillStageTwiddles(Cx<T>* tw, int order, CosSin cs) {
     size_t at = 0;
-    for (int n = order; n >= 2; n -= 2) {
-        const size_t m = size_t(1) << (n - 2);
-        if (m < 2) continue;
+    int n = order;
+    for (int i = 0; i < passCount(order); ++i) {
+        const int rl = passRadixLog(order, i);
+        const size_t R = size_t(1) << rl, m = size_t(1) << (n - rl);
         const size_t step = size_t(1) << (order - n);  // N / n
-        for (size_t p = 0; p < m; ++p) {
-            for (size_t j = 0; j < 3; ++j) {
-                double c = 0, s = 0;
-                cs((j + 1) * p * step, c, s);
-                Cx<T>& w = tw[at + (p / 4) * 12 + j * 4 + (p % 4)];
-                w.re = static_cast<T>(c);
-                w.im = static_cast<T>(-s);
+        if (m >= 2) {
+            for (size_t p = 0; p < m; ++p) {
+                for (size_t j = 0; j + 1 < R; ++j) {
+                    double c = 0, s = 0;
+                    cs((j + 1) * p * step, c, s);
+                    Cx<T>& w = tw[at + (p / 4) * (R - 1) * 4 + j * 4 + (p % 4)];
+                    w.re = static_cast<T>(c);
+                    w.im = static_cast<T>(-s);
+                }
             }
+            at += (R - 1) * 4 * ((m + 3) / 4);
         }
-        at += 12 * ((m + 3) / 4);
+        n -= rl;
     }
 }
 

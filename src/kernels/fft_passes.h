@@ -50,6 +50,9 @@ struct ScalarPolicy {
     static V scale(V v, T c) { return {v.re * c, v.im * c}; }
     static V conj(V v) { return {v.re, -v.im}; }
     static V rev(V v) { return v; }
+    static void storeT8(Buf y, size_t i, const V* v) {
+        for (int k = 0; k < 8; ++k) y[i + k] = v[k];
+    }
     static Buf offset(Buf b, size_t i) { return b + i; }
     static bool same(CBuf a, CBuf b) { return a == b; }
     static void copy(CBuf src, Buf dst, size_t n) { memcpy(dst, src, n * sizeof(Cx<T>)); }
@@ -99,6 +102,13 @@ struct InterleavedF32 {
         store(y, i + 4, _mm_movehl_ps(b, a));
         store(y, i + 6, _mm_movehl_ps(d, c));
     }
+    // v[k] holds output k for p and p+1; y[i..i+7] gets p's, y[i+8..] p+1's.
+    static void storeT8(Buf y, size_t i, const V* v) {
+        for (int k = 0; k < 8; k += 2) {
+            store(y, i + k, _mm_movelh_ps(v[k], v[k + 1]));
+            store(y, i + 8 + k, _mm_movehl_ps(v[k + 1], v[k]));
+        }
+    }
     static V scale(V v, float c) { return _mm_mul_ps(v, _mm_set1_ps(c)); }
     static V conj(V v) { return _mm_xor_ps(v, _mm_castsi128_ps(_mm_set_epi32(int(0x80000000), 0, int(0x80000000), 0))); }
     static V rev(V v) { return _mm_shuffle_ps(v, v, _MM_SHUFFLE(1, 0, 3, 2)); }
@@ -144,6 +154,9 @@ struct InterleavedF64 {
         store(y, i + 1, b);
         store(y, i + 2, c);
         store(y, i + 3, d);
+    }
+    static void storeT8(Buf y, size_t i, const V* v) {
+        for (int k = 0; k < 8; ++k) store(y, i + k, v[k]);
     }
     static V scale(V v, double c) { return _mm_mul_pd(v, _mm_set1_pd(c)); }
     static V conj(V v) { return _mm_xor_pd(v, _mm_set_pd(-0.0, 0.0)); }
@@ -199,6 +212,21 @@ struct SplitF32 {
         store(y, i + 8, c);
         store(y, i + 12, d);
     }
+    static void storeT8(Buf y, size_t i, const V* v) {
+        V a = v[0], b = v[1], c = v[2], d = v[3], e = v[4], f = v[5], g = v[6], h = v[7];
+        _MM_TRANSPOSE4_PS(a.re, b.re, c.re, d.re);
+        _MM_TRANSPOSE4_PS(a.im, b.im, c.im, d.im);
+        _MM_TRANSPOSE4_PS(e.re, f.re, g.re, h.re);
+        _MM_TRANSPOSE4_PS(e.im, f.im, g.im, h.im);
+        store(y, i, a);
+        store(y, i + 4, e);
+        store(y, i + 8, b);
+        store(y, i + 12, f);
+        store(y, i + 16, c);
+        store(y, i + 20, g);
+        store(y, i + 24, d);
+        store(y, i + 28, h);
+    }
     static V scale(V v, float c) { return {_mm_mul_ps(v.re, _mm_set1_ps(c)), _mm_mul_ps(v.im, _mm_set1_ps(c))}; }
     static Buf offset(Buf b, size_t i) { return {b.re + i, b.im + i}; }
     static bool same(CBuf a, Buf b) { return a.re == b.re || a.im == b.im || a.re == b.im || a.im == b.re; }
@@ -251,6 +279,12 @@ struct SplitF64 {
         store(y, i + 2, {_mm_unpacklo_pd(c.re, d.re), _mm_unpacklo_pd(c.im, d.im)});
         store(y, i + 4, {_mm_unpackhi_pd(a.re, b.re), _mm_unpackhi_pd(a.im, b.im)});
         store(y, i + 6, {_mm_unpackhi_pd(c.re, d.re), _mm_unpackhi_pd(c.im, d.im)});
+    }
+    static void storeT8(Buf y, size_t i, const V* v) {
+        for (int k = 0; k < 8; k += 2) {
+            store(y, i + k, {_mm_unpacklo_pd(v[k].re, v[k + 1].re), _mm_unpacklo_pd(v[k].im, v[k + 1].im)});
+            store(y, i + 8 + k, {_mm_unpackhi_pd(v[k].re, v[k + 1].re), _mm_unpackhi_pd(v[k].im, v[k + 1].im)});
+        }
     }
     static V scale(V v, double c) { return {_mm_mul_pd(v.re, _mm_set1_pd(c)), _mm_mul_pd(v.im, _mm_set1_pd(c))}; }
     static Buf offset(Buf b, size_t i) { return {b.re + i, b.im + i}; }
@@ -339,37 +373,74 @@ void pass2(In x, typename P::Buf y, size_t s) {
     }
 }
 
-// The closing radix-8 pass of an odd order (n = 8, no outer twiddles): two
-// 4-point transforms of the even and odd inputs joined by w8^k, where
-// w8 z = (z + rot z) / sqrt(2), w8^2 z = rot z and w8^3 z = rot(w8 z).
-template <class P, bool Inv, class In>
-void pass8(In x, typename P::Buf y, size_t s) {
+// The 8-point DFT of a0..a7: two 4-point transforms of the even and odd
+// inputs joined by w8^k, where w8 z = (z + rot z) / sqrt(2), w8^2 z = rot z
+// and w8^3 z = rot(w8 z).
+template <class P, bool Inv>
+inline void dft8(const typename P::V* a, typename P::V* y) {
     using V = typename P::V;
     const typename P::T c = static_cast<typename P::T>(0.70710678118654752440);
     const typename P::Tw one{};
-    for (size_t q = 0; q < s; q += P::W) {
-        V e0, e1, e2, e3, o0, o1, o2, o3;
-        butterfly4<P, Inv, false>(P::load(x, q), P::load(x, q + 2 * s), P::load(x, q + 4 * s), P::load(x, q + 6 * s),
-                                  one, one, one, e0, e1, e2, e3);
-        butterfly4<P, Inv, false>(P::load(x, q + s), P::load(x, q + 3 * s), P::load(x, q + 5 * s),
-                                  P::load(x, q + 7 * s), one, one, one, o0, o1, o2, o3);
-        const V t1 = P::scale(P::add(o1, P::template rot<Inv>(o1)), c);
-        const V t2 = P::template rot<Inv>(o2);
-        const V t3 = P::template rot<Inv>(P::scale(P::add(o3, P::template rot<Inv>(o3)), c));
-        P::store(y, q, P::add(e0, o0));
-        P::store(y, q + 4 * s, P::sub(e0, o0));
-        P::store(y, q + s, P::add(e1, t1));
-        P::store(y, q + 5 * s, P::sub(e1, t1));
-        P::store(y, q + 2 * s, P::add(e2, t2));
-        P::store(y, q + 6 * s, P::sub(e2, t2));
-        P::store(y, q + 3 * s, P::add(e3, t3));
-        P::store(y, q + 7 * s, P::sub(e3, t3));
+    V e0, e1, e2, e3, o0, o1, o2, o3;
+    butterfly4<P, Inv, false>(a[0], a[2], a[4], a[6], one, one, one, e0, e1, e2, e3);
+    butterfly4<P, Inv, false>(a[1], a[3], a[5], a[7], one, one, one, o0, o1, o2, o3);
+    const V t1 = P::scale(P::add(o1, P::template rot<Inv>(o1)), c);
+    const V t2 = P::template rot<Inv>(o2);
+    const V t3 = P::template rot<Inv>(P::scale(P::add(o3, P::template rot<Inv>(o3)), c));
+    y[0] = P::add(e0, o0);
+    y[4] = P::sub(e0, o0);
+    y[1] = P::add(e1, t1);
+    y[5] = P::sub(e1, t1);
+    y[2] = P::add(e2, t2);
+    y[6] = P::sub(e2, t2);
+    y[3] = P::add(e3, t3);
+    y[7] = P::sub(e3, t3);
+}
+
+// First radix-8 pass of a single sequence (s = 1), vectorised over p.
+template <class P, bool Inv, class In>
+void pass8First(In x, typename P::Buf y, size_t m, const Cx<typename P::T>* tw) {
+    typename P::V a[8], v[8];
+    for (size_t p = 0; p < m; p += P::W) {
+        for (size_t j = 0; j < 8; ++j) a[j] = P::load(x, p + j * m);
+        dft8<P, Inv>(a, v);
+        const Cx<typename P::T>* g = tw + (p / 4) * 28 + (p % 4);
+        for (size_t k = 1; k < 8; ++k) v[k] = P::mul(v[k], P::template twLoad<Inv>(g + 4 * (k - 1)));
+        P::storeT8(y, 8 * p, v);
     }
 }
 
-// All passes of one order; see stockham() in fft_kernel.h for the buffers.
-// Radix-4 passes, an odd order closing with one radix-8 pass (order 1: one
-// radix-2 pass).
+// A radix-8 pass with s >= W sub-sequences, vectorised over q; m = 1 needs
+// no twiddles.
+template <class P, bool Inv, class In>
+void pass8(In x, typename P::Buf y, size_t m, size_t s, const Cx<typename P::T>* tw) {
+    const size_t sm = s * m;
+    typename P::V a[8], v[8];
+    for (size_t p = 0; p < m; ++p) {
+        const size_t i0 = s * p, o0 = 8 * s * p;
+        if (p == 0) {
+            for (size_t q = 0; q < s; q += P::W) {
+                for (size_t j = 0; j < 8; ++j) a[j] = P::load(x, q + j * sm);
+                dft8<P, Inv>(a, v);
+                for (size_t k = 0; k < 8; ++k) P::store(y, q + k * s, v[k]);
+            }
+            continue;
+        }
+        const Cx<typename P::T>* g = tw + (p / 4) * 28 + (p % 4);
+        typename P::Tw w[7];
+        for (size_t k = 0; k < 7; ++k) w[k] = P::template twBroadcast<Inv>(g + 4 * k);
+        for (size_t q = 0; q < s; q += P::W) {
+            const size_t i = i0 + q, o = o0 + q;
+            for (size_t j = 0; j < 8; ++j) a[j] = P::load(x, i + j * sm);
+            dft8<P, Inv>(a, v);
+            P::store(y, o, v[0]);
+            for (size_t k = 1; k < 8; ++k) P::store(y, o + k * s, P::mul(v[k], w[k - 1]));
+        }
+    }
+}
+
+// All passes of one order (passCount / passRadixLog in fft_kernel.h); see
+// stockham() there for the buffers.
 template <class P, bool Inv>
 void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratch, int order, size_t lanes,
                const Cx<typename P::T>* tw) {
@@ -378,7 +449,7 @@ void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratc
         if (!P::same(src, dst)) P::copy(src, dst, total);
         return;
     }
-    const int passes = order == 1 ? 1 : order / 2;
+    const int passes = passCount(order);
     bool fromScratch = false;
     if (P::same(src, dst) && (passes & 1)) {
         P::copy(src, scratch, total);
@@ -390,34 +461,33 @@ void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratc
     typename P::Buf in = fromScratch ? scratch : dst;  // valid once pass 1 has run
     for (int i = 1; i <= passes; ++i) {
         typename P::Buf out = ((passes - i) & 1) ? scratch : dst;
-        if (n == 3) {
-            if (i == 1 && !fromScratch)
-                pass8<P, Inv>(src, out, s);
-            else
-                pass8<P, Inv>(in, out, s);
-            n = 0;
-        } else if (n >= 2) {
-            const size_t m = size_t(1) << (n - 2);
-            if (i == 1 && !fromScratch) {
-                if (s < P::W)
-                    pass4First<P, Inv>(src, out, m, twAt);
-                else
-                    pass4<P, Inv>(src, out, m, s, twAt);
+        const bool fromSrc = i == 1 && !fromScratch;
+        const int rl = passRadixLog(order, i - 1);
+        const size_t m = size_t(1) << (n - rl);
+        if (rl == 3) {
+            if (s < P::W) {
+                if (fromSrc) pass8First<P, Inv>(src, out, m, twAt);
+                else pass8First<P, Inv>(in, out, m, twAt);
             } else {
-                if (s < P::W)
-                    pass4First<P, Inv>(in, out, m, twAt);
-                else
-                    pass4<P, Inv>(in, out, m, s, twAt);
+                if (fromSrc) pass8<P, Inv>(src, out, m, s, twAt);
+                else pass8<P, Inv>(in, out, m, s, twAt);
+            }
+            if (m >= 2) twAt += 28 * ((m + 3) / 4);
+        } else if (rl == 2) {
+            if (s < P::W) {
+                if (fromSrc) pass4First<P, Inv>(src, out, m, twAt);
+                else pass4First<P, Inv>(in, out, m, twAt);
+            } else {
+                if (fromSrc) pass4<P, Inv>(src, out, m, s, twAt);
+                else pass4<P, Inv>(in, out, m, s, twAt);
             }
             if (m >= 2) twAt += 12 * ((m + 3) / 4);
-            n -= 2;
-            s *= 4;
         } else {
-            if (i == 1 && !fromScratch)
-                pass2<P>(src, out, s);
-            else
-                pass2<P>(in, out, s);
+            if (fromSrc) pass2<P>(src, out, s);
+            else pass2<P>(in, out, s);
         }
+        n -= rl;
+        s <<= rl;
         in = out;
     }
 }
