@@ -266,10 +266,11 @@ View<T> complexView(const void* spec) {
     v.scale = h->f.scale;
     v.workSize = h->f.workSize;
     if (v.order > kComplexFixedMax) {
-        const Layout L = complexLayout<T>(v.order);
-        const uint8_t* base = static_cast<const uint8_t*>(spec);
-        v.tw = reinterpret_cast<const Cx<T>*>(base + L.tw);
-        if (L.half) v.half = reinterpret_cast<const Cx<T>*>(base + L.half);
+        v.tw = static_cast<const Cx<T>*>(h->twiddle.p);
+        if (v.order >= Prec<T>::kLargeFrom) {
+            const Layout L = complexLayout<T>(v.order);
+            v.half = reinterpret_cast<const Cx<T>*>(static_cast<const uint8_t*>(spec) + L.half);
+        }
     }
     return v;
 }
@@ -286,15 +287,15 @@ View<T> realView(const void* spec) {
     v.scale = h->f.scale;
     v.workSize = h->f.workSize;
     if (v.order > kRealFixedMax) {
-        const Layout L = realLayout<T>(v.order);
-        const uint8_t* base = static_cast<const uint8_t*>(spec);
         if (v.order >= 7) {
-            v.tw = reinterpret_cast<const Cx<T>*>(base + L.tw);
-            if (L.half) v.half = reinterpret_cast<const Cx<T>*>(base + L.half);
+            v.tw = static_cast<const Cx<T>*>(h->twiddle.p);
+            if (v.order - 1 >= Prec<T>::kLargeFrom) {
+                const Layout L = realLayout<T>(v.order);
+                v.half = reinterpret_cast<const Cx<T>*>(static_cast<const uint8_t*>(spec) + L.half);
+            }
         }
-        v.A = reinterpret_cast<const Cx<T>*>(base + L.split);
-        if (sizeof(T) == 4 && v.order >= kRealTwoLevelFrom32f)
-            v.coarse = reinterpret_cast<const Cx<double>*>(base + L.split2);
+        v.A = static_cast<const Cx<T>*>(h->split.p);
+        if (sizeof(T) == 4 && v.order >= kRealTwoLevelFrom32f) v.coarse = static_cast<const Cx<double>*>(h->split2.p);
     }
     return v;
 }
