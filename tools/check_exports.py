@@ -117,8 +117,10 @@ def main():
 
     dis = subprocess.run(["objdump", "-d", "--no-show-raw-insn", a.lib], capture_output=True, text=True,
                          check=True).stdout
-    beyond = re.compile(r"\t(v[a-z0-9]+\s.*%[xyz]mm|.*%[yz]mm|crc32|pcmpgtq|pcmp[ei]stri|pcmp[ei]strm|popcnt|"
-                        r"lzcnt|tzcnt|andn\s|bextr|shlx|shrx|sarx|pdep\s|pext\s|movbe)")
+    # Whole mnemonics only: andnps and pextrd are SSE, andn and pext are not.
+    beyond = re.compile(r"\t(v[a-z0-9]+\s.*%[xyz]mm|.*%[yz]mm|(crc32[bwlq]?|pcmpgtq|pcmp[ei]stri|pcmp[ei]strm|"
+                        r"popcnt[wlq]?|lzcnt[wlq]?|tzcnt[wlq]?|andn[lq]?|bextr[lq]?|shlx[lq]?|shrx[lq]?|sarx[lq]?|"
+                        r"pdep[lq]?|pext[lq]?|movbe[wlq]?)\s)")
     hits = [l for l in dis.splitlines() if beyond.search(l)]
     if hits:
         errors.append("instructions beyond SSE4.1: " + "; ".join(h.strip() for h in hits[:5]))

@@ -118,9 +118,14 @@ inline void intToFloat(const TSrc* pSrc, TDst* pDst, size_t n, int sf) {
     } else {
         // Exact unless the integer is wider than the mantissa or a factor
         // applies; then the one rounding happens to nearest.
+        // The product of an exact conversion and a normal power of two is
+        // exact while it stays below the largest power of two (|x| is at
+        // most 2^kBits), so no rounding setting matters then.
         constexpr bool kRounds = sizeof(TSrc) >= sizeof(TDst);
-        if (sf == 0 && !kRounds) {
-            intToFloatVector(pSrc, pDst, n, 0);
+        constexpr int kBits = 8 * static_cast<int>(sizeof(TSrc));
+        constexpr int kMaxExp = std::is_same<TDst, float>::value ? 128 : 1024;
+        if (!kRounds && normalFactor<TDst>(sf) && sf > kBits - kMaxExp) {
+            intToFloatVector(pSrc, pDst, n, sf);
             return;
         }
         RoundingGuard g(RoundingGuard::Nearest);

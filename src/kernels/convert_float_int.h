@@ -10,13 +10,14 @@
 //      that the addition itself never rounds up.
 // The factor is a normal power of two, so the product is exact unless it
 // leaves the finite range, where the clamp gives the same result anyway.
-// Every loop has a scalar twin (the tail) giving identical results.
+// Every loop has a scalar twin (head and tail) giving identical results.
 #pragma once
 
 #include <smmintrin.h>
 #include <stddef.h>
 #include <stdint.h>
 
+#include "convert_store.h"
 #include "frame/detail/rounding.h"
 #include "frame/detail/traits.h"
 
@@ -48,18 +49,14 @@ inline __m128i roundToInt(__m128 y) {
     }
 }
 
-// Two doubles to two int32 lanes (low half of the result).
+// Two doubles to two int32 lanes (low half of the result), modes 0 and 1.
 template <int M>
 inline __m128i roundToInt(__m128d y) {
     if constexpr (M == 0) {
         return _mm_cvttpd_epi32(y);
-    } else if constexpr (M == 1) {
-        return _mm_cvtpd_epi32(y);
     } else {
-        const __m128d sign = _mm_set1_pd(-0.0);
-        const __m128d a = _mm_add_pd(_mm_andnot_pd(sign, y), _mm_set1_pd(0.5));
-        const __m128d t = _mm_round_pd(a, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
-        return _mm_cvttpd_epi32(_mm_or_pd(t, _mm_and_pd(y, sign)));
+        static_assert(M == 1, "half away from zero is done on four lanes at once");
+        return _mm_cvtpd_epi32(y);
     }
 }
 
@@ -81,8 +78,10 @@ struct Quad<float, TDst, M, Scaled> {
             const __m128 big = _mm_cmpnlt_ps(y, _mm_set1_ps(2147483648.0f));
             return _mm_blendv_epi8(roundToInt<M>(y), _mm_set1_epi32(0x7FFFFFFF), _mm_castps_si128(big));
         } else {
+            // Only the upper clamp is needed: below the range the conversion
+            // gives a negative lane (at worst its out-of-range answer
+            // -2^31), which the saturating packs take to the minimum.
             y = _mm_min_ps(y, _mm_set1_ps(static_cast<float>(Range<TDst>::hi)));  // NaN takes the bound
-            y = _mm_max_ps(y, _mm_set1_ps(static_cast<float>(Range<TDst>::lo)));
             return roundToInt<M>(y);
         }
     }
@@ -92,42 +91,60 @@ template <class TDst, int M, bool Scaled>
 struct Quad<double, TDst, M, Scaled> {
     __m128d f;
     explicit Quad(double factor) : f(_mm_set1_pd(factor)) {}
-    __m128i pair(const double* p) const {
+    // Clamped from above (NaN takes the bound); below the range the
+    // conversion's out-of-range answer -2^31 is the minimum or packs to it.
+    __m128d load(const double* p) const {
         __m128d y = _mm_loadu_pd(p);
         if (Scaled) y = _mm_mul_pd(y, f);
-        y = _mm_min_pd(y, _mm_set1_pd(static_cast<double>(Range<TDst>::hi)));  // NaN takes the bound
-        y = _mm_max_pd(y, _mm_set1_pd(static_cast<double>(Range<TDst>::lo)));
-        return roundToInt<M>(y);
+        return _mm_min_pd(y, _mm_set1_pd(static_cast<double>(Range<TDst>::hi)));
     }
-    __m128i operator()(const double* p) const { return _mm_unpacklo_epi64(pair(p), pair(p + 2)); }
+    __m128i operator()(const double* p) const {
+        const __m128d a = load(p), b = load(p + 2);
+        if constexpr (M == 2) {
+            // |y| + 0.5 truncated, then the sign of each value (the high
+            // word of a double carries it) put back on the four lanes.
+            const __m128d sign = _mm_set1_pd(-0.0), half = _mm_set1_pd(0.5);
+            const __m128i ia = _mm_cvttpd_epi32(_mm_add_pd(_mm_andnot_pd(sign, a), half));
+            const __m128i ib = _mm_cvttpd_epi32(_mm_add_pd(_mm_andnot_pd(sign, b), half));
+            const __m128 hiWords = _mm_shuffle_ps(_mm_castpd_ps(a), _mm_castpd_ps(b), _MM_SHUFFLE(3, 1, 3, 1));
+            return _mm_sign_epi32(_mm_unpacklo_epi64(ia, ib), _mm_castps_si128(hiWords));
+        } else {
+            return _mm_unpacklo_epi64(roundToInt<M>(a), roundToInt<M>(b));
+        }
+    }
 };
 
 // pSrc[0, n) to pDst, TDst one of T8u, T8s, T16u, T16s, T32s.
 template <class TSrc, class TDst, int M, bool Scaled>
 inline void floatToInt(const TSrc* pSrc, TDst* pDst, size_t n, TSrc factor) {
     const Quad<TSrc, TDst, M, Scaled> q(factor);
-    size_t i = 0;
-    __m128i* d = reinterpret_cast<__m128i*>(pDst);
-    if constexpr (sizeof(TDst) == 4) {
-        for (; i + 8 <= n; i += 8, d += 2) {
-            const __m128i a = q(pSrc + i), b = q(pSrc + i + 4);
-            _mm_storeu_si128(d, a);
-            _mm_storeu_si128(d + 1, b);
+    auto loop = [&q](auto stream, const TSrc* s, TDst* dst, size_t m) {
+        constexpr bool S = decltype(stream)::value;
+        size_t i = 0;
+        __m128i* d = reinterpret_cast<__m128i*>(dst);
+        if constexpr (sizeof(TDst) == 4) {
+            for (; i + 8 <= m; i += 8, d += 2) {
+                const __m128i a = q(s + i), b = q(s + i + 4);
+                put<S>(d, a);
+                put<S>(d + 1, b);
+            }
+        } else if constexpr (sizeof(TDst) == 2) {
+            for (; i + 8 <= m; i += 8, ++d) {
+                const __m128i a = q(s + i), b = q(s + i + 4);
+                put<S>(d, std::is_signed<TDst>::value ? _mm_packs_epi32(a, b) : _mm_packus_epi32(a, b));
+            }
+        } else {
+            for (; i + 16 <= m; i += 16, ++d) {
+                const __m128i a = _mm_packs_epi32(q(s + i), q(s + i + 4));
+                const __m128i b = _mm_packs_epi32(q(s + i + 8), q(s + i + 12));
+                put<S>(d, std::is_signed<TDst>::value ? _mm_packs_epi16(a, b) : _mm_packus_epi16(a, b));
+            }
         }
-    } else if constexpr (sizeof(TDst) == 2) {
-        for (; i + 8 <= n; i += 8, ++d) {
-            const __m128i a = q(pSrc + i), b = q(pSrc + i + 4);
-            // The lanes are in range already, so the packs only narrow.
-            _mm_storeu_si128(d, std::is_signed<TDst>::value ? _mm_packs_epi32(a, b) : _mm_packus_epi32(a, b));
-        }
-    } else {
-        for (; i + 16 <= n; i += 16, ++d) {
-            const __m128i a = _mm_packs_epi32(q(pSrc + i), q(pSrc + i + 4));
-            const __m128i b = _mm_packs_epi32(q(pSrc + i + 8), q(pSrc + i + 12));
-            _mm_storeu_si128(d, std::is_signed<TDst>::value ? _mm_packs_epi16(a, b) : _mm_packus_epi16(a, b));
-        }
-    }
-    floatToIntScalar<TSrc, TDst, M, Scaled>(pSrc + i, pDst + i, n - i, factor);
+        return i;
+    };
+    drive(pSrc, pDst, n, loop, [factor](const TSrc* s, TDst* d, size_t m) {
+        floatToIntScalar<TSrc, TDst, M, Scaled>(s, d, m, factor);
+    });
 }
 
 }  // namespace kern

@@ -5,7 +5,8 @@
 // to single) round by the processor's setting, which the caller sets to
 // nearest. The factor is a normal power of two and the caller keeps the
 // product in the normal range, so scaling after the conversion equals
-// rounding the exact scaled value once. Each loop's scalar twin is its tail.
+// rounding the exact scaled value once. Each loop's scalar twin does its
+// head and tail.
 #pragma once
 
 #include <smmintrin.h>
@@ -14,6 +15,7 @@
 
 #include <type_traits>
 
+#include "convert_store.h"
 #include "veks.h"
 
 namespace veks {
@@ -60,20 +62,22 @@ inline __m128i load4(const TSrc* p) {
     }
 }
 
+template <bool S>
 inline void store4(float* p, __m128i v, __m128 f, bool scaled) {
     __m128 y = _mm_cvtepi32_ps(v);
     if (scaled) y = _mm_mul_ps(y, f);
-    _mm_storeu_ps(p, y);
+    put<S>(p, y);
 }
 
+template <bool S>
 inline void store4(double* p, __m128i v, __m128d f, bool scaled) {
     __m128d a = _mm_cvtepi32_pd(v), b = _mm_cvtepi32_pd(_mm_unpackhi_epi64(v, v));
     if (scaled) {
         a = _mm_mul_pd(a, f);
         b = _mm_mul_pd(b, f);
     }
-    _mm_storeu_pd(p, a);
-    _mm_storeu_pd(p + 2, b);
+    put<S>(p, a);
+    put<S>(p + 2, b);
 }
 
 // Two 64-bit integers to two doubles, rounding once as int64ToDouble does:
@@ -90,48 +94,66 @@ inline __m128d int64PairToDouble(__m128i v) {
 // pSrc[0, n) to pDst, TSrc one of T8u, T8s, T16u, T16s, T32s, T64s.
 template <class TSrc, class TDst, bool Scaled>
 inline void intToFloat(const TSrc* pSrc, TDst* pDst, size_t n, TDst factor) {
-    size_t i = 0;
-    if constexpr (sizeof(TSrc) == 8) {
-        const __m128d f = _mm_set1_pd(factor);
-        for (; i + 2 <= n; i += 2) {
-            __m128d y = int64PairToDouble(_mm_loadu_si128(reinterpret_cast<const __m128i*>(pSrc + i)));
-            if (Scaled) y = _mm_mul_pd(y, f);
-            _mm_storeu_pd(pDst + i, y);
+    auto loop = [factor](auto stream, const TSrc* s, TDst* d, size_t m) {
+        constexpr bool S = decltype(stream)::value;
+        size_t i = 0;
+        if constexpr (sizeof(TSrc) == 8) {
+            const __m128d f = _mm_set1_pd(factor);
+            for (; i + 2 <= m; i += 2) {
+                __m128d y = int64PairToDouble(_mm_loadu_si128(reinterpret_cast<const __m128i*>(s + i)));
+                if (Scaled) y = _mm_mul_pd(y, f);
+                put<S>(d + i, y);
+            }
+        } else {
+            const auto f = [&] {
+                if constexpr (sizeof(TDst) == 4)
+                    return _mm_set1_ps(factor);
+                else
+                    return _mm_set1_pd(factor);
+            }();
+            for (; i + 8 <= m; i += 8) {
+                const __m128i a = load4(s + i), b = load4(s + i + 4);
+                store4<S>(d + i, a, f, Scaled);
+                store4<S>(d + i + 4, b, f, Scaled);
+            }
         }
-    } else {
-        const auto f = [&] {
-            if constexpr (sizeof(TDst) == 4)
-                return _mm_set1_ps(factor);
-            else
-                return _mm_set1_pd(factor);
-        }();
-        for (; i + 8 <= n; i += 8) {
-            const __m128i a = load4(pSrc + i), b = load4(pSrc + i + 4);
-            store4(pDst + i, a, f, Scaled);
-            store4(pDst + i + 4, b, f, Scaled);
-        }
-    }
-    intToFloatScalar<TSrc, TDst, Scaled>(pSrc + i, pDst + i, n - i, factor);
+        return i;
+    };
+    drive(pSrc, pDst, n, loop, [factor](const TSrc* s, TDst* d, size_t m) {
+        intToFloatScalar<TSrc, TDst, Scaled>(s, d, m, factor);
+    });
 }
 
 // Single to double (exact) and double to single (rounded by the setting).
 inline void floatToDouble(const float* pSrc, double* pDst, size_t n) {
-    size_t i = 0;
-    for (; i + 4 <= n; i += 4) {
-        const __m128 v = _mm_loadu_ps(pSrc + i);
-        _mm_storeu_pd(pDst + i, _mm_cvtps_pd(v));
-        _mm_storeu_pd(pDst + i + 2, _mm_cvtps_pd(_mm_movehl_ps(v, v)));
-    }
-    for (; i < n; ++i) pDst[i] = pSrc[i];
+    auto loop = [](auto stream, const float* s, double* d, size_t m) {
+        constexpr bool S = decltype(stream)::value;
+        size_t i = 0;
+        for (; i + 4 <= m; i += 4) {
+            const __m128 v = _mm_loadu_ps(s + i);
+            put<S>(d + i, _mm_cvtps_pd(v));
+            put<S>(d + i + 2, _mm_cvtps_pd(_mm_movehl_ps(v, v)));
+        }
+        return i;
+    };
+    drive(pSrc, pDst, n, loop, [](const float* s, double* d, size_t m) {
+        for (size_t i = 0; i < m; ++i) d[i] = s[i];
+    });
 }
 
 inline void doubleToFloat(const double* pSrc, float* pDst, size_t n) {
-    size_t i = 0;
-    for (; i + 4 <= n; i += 4) {
-        const __m128 a = _mm_cvtpd_ps(_mm_loadu_pd(pSrc + i)), b = _mm_cvtpd_ps(_mm_loadu_pd(pSrc + i + 2));
-        _mm_storeu_ps(pDst + i, _mm_movelh_ps(a, b));
-    }
-    for (; i < n; ++i) pDst[i] = static_cast<float>(pSrc[i]);
+    auto loop = [](auto stream, const double* s, float* d, size_t m) {
+        constexpr bool S = decltype(stream)::value;
+        size_t i = 0;
+        for (; i + 4 <= m; i += 4) {
+            const __m128 a = _mm_cvtpd_ps(_mm_loadu_pd(s + i)), b = _mm_cvtpd_ps(_mm_loadu_pd(s + i + 2));
+            put<S>(d + i, _mm_movelh_ps(a, b));
+        }
+        return i;
+    };
+    drive(pSrc, pDst, n, loop, [](const double* s, float* d, size_t m) {
+        for (size_t i = 0; i < m; ++i) d[i] = static_cast<float>(s[i]);
+    });
 }
 
 }  // namespace kern

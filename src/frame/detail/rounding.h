@@ -15,15 +15,20 @@ namespace veks {
 class RoundingGuard {
 public:
     enum Mode : unsigned { Nearest = 0x0000, Down = 0x2000, Up = 0x4000, TowardZero = 0x6000 };
-    explicit RoundingGuard(Mode m) : saved_(_mm_getcsr()) {
-        _mm_setcsr((saved_ & ~0x6000u) | m);
+    // Writing the control register is slow, so a setting that is already
+    // in force is left alone (and then nothing needs restoring).
+    explicit RoundingGuard(Mode m) : saved_(_mm_getcsr()), changed_((saved_ & 0x6000u) != m) {
+        if (changed_) _mm_setcsr((saved_ & ~0x6000u) | m);
     }
-    ~RoundingGuard() { _mm_setcsr((_mm_getcsr() & ~0x6000u) | (saved_ & 0x6000u)); }
+    ~RoundingGuard() {
+        if (changed_) _mm_setcsr((_mm_getcsr() & ~0x6000u) | (saved_ & 0x6000u));
+    }
     RoundingGuard(const RoundingGuard&) = delete;
     RoundingGuard& operator=(const RoundingGuard&) = delete;
 
 private:
     unsigned saved_;
+    bool changed_;
 };
 
 // Round a double to an integral double by a rounding-mode argument
