@@ -45,6 +45,36 @@ struct SineSource {
     }
 };
 
+// sin and cos of |x| <= pi/4 by their Taylor series in double (terms to
+// x^19 and x^18; the remainders lie below 1e-20), using only +, - and *,
+// so that the tables are the same bits on every target whatever its libm.
+inline double sinSmall(double x) {
+    const double x2 = x * x;
+    double p = -1.0 / 121645100408832000.0;  // -1/19!
+    p = 1.0 / 355687428096000.0 + x2 * p;    // 1/17!
+    p = -1.0 / 1307674368000.0 + x2 * p;     // -1/15!
+    p = 1.0 / 6227020800.0 + x2 * p;         // 1/13!
+    p = -1.0 / 39916800.0 + x2 * p;          // -1/11!
+    p = 1.0 / 362880.0 + x2 * p;             // 1/9!
+    p = -1.0 / 5040.0 + x2 * p;              // -1/7!
+    p = 1.0 / 120.0 + x2 * p;                // 1/5!
+    p = -1.0 / 6.0 + x2 * p;                 // -1/3!
+    return x + x * x2 * p;
+}
+inline double cosSmall(double x) {
+    const double x2 = x * x;
+    double p = -1.0 / 6402373705728000.0;  // -1/18!
+    p = 1.0 / 20922789888000.0 + x2 * p;   // 1/16!
+    p = -1.0 / 87178291200.0 + x2 * p;     // -1/14!
+    p = 1.0 / 479001600.0 + x2 * p;        // 1/12!
+    p = -1.0 / 3628800.0 + x2 * p;         // -1/10!
+    p = 1.0 / 40320.0 + x2 * p;            // 1/8!
+    p = -1.0 / 720.0 + x2 * p;             // -1/6!
+    p = 1.0 / 24.0 + x2 * p;               // 1/4!
+    p = -0.5 + x2 * p;                     // -1/2!
+    return 1.0 + x2 * p;
+}
+
 template <class T>
 SineSource<T> makeSines(int order, uint8_t* initBuf) {
     SineSource<T> src;
@@ -58,8 +88,8 @@ SineSource<T> makeSines(int order, uint8_t* initBuf) {
     T* q = reinterpret_cast<T*>(alignPtr64(initBuf));
     const int64_t N = src.top, Q = N / 4, E = N / 8;
     const double step = 2.0 * M_PI / static_cast<double>(N);
-    for (int64_t k = 0; k <= E; ++k) q[k] = static_cast<T>(sin(static_cast<double>(k) * step));
-    for (int64_t k = E + 1; k < Q; ++k) q[k] = static_cast<T>(cos(static_cast<double>(Q - k) * step));
+    for (int64_t k = 0; k <= E; ++k) q[k] = static_cast<T>(sinSmall(static_cast<double>(k) * step));
+    for (int64_t k = E + 1; k < Q; ++k) q[k] = static_cast<T>(cosSmall(static_cast<double>(Q - k) * step));
     q[Q] = T(1);
     src.built = q;
     return src;

@@ -234,6 +234,28 @@ TEST(FftSpec, BitReversalTable) {
     }
 }
 
+// The quarter-wave table Init builds in the init buffer: sin(2 pi k / N) up
+// to N/8, the cosine of the complementary angle above, exactly 1 at N/4; the
+// values agree with the C library's to an ulp (they are computed without it,
+// so that every target gets the same bits).
+TEST(FftSpec, QuarterWaveTableInTheInitBuffer) {
+    for (int order : {11, 13, 16}) {
+        const ref::Sizes sz = query(veksFFTGetSize_C_64fc, order);
+        std::vector<uint8_t> mem(static_cast<size_t>(sz.spec) + 64), ib(static_cast<size_t>(sz.init) + 64);
+        FftSpec_C_64fc* spec = nullptr;
+        uint8_t* init = aligned(ib, 0);
+        ASSERT_EQ(veksFFTInit_C_64fc(&spec, order, 8, 0, mem.data(), init), VEK_OK);
+        const double* q = reinterpret_cast<const double*>(init);
+        const int64_t N = int64_t(1) << order;
+        const double step = 2.0 * M_PI / static_cast<double>(N);
+        for (int64_t k = 0; k < N / 4; ++k) {
+            const double want = k <= N / 8 ? sin(static_cast<double>(k) * step) : cos(static_cast<double>(N / 4 - k) * step);
+            ASSERT_LE(vt::ulpDistance(q[k], want), 1) << order << " " << k;
+        }
+        EXPECT_EQ(q[N / 4], 1.0);
+    }
+}
+
 // Init writes only inside the size it asked for, from any start, and reads
 // the init buffer only inside its size.
 TEST(FftSpec, InitStaysInsideItsSizes) {
