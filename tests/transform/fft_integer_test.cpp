@@ -263,3 +263,42 @@ TEST(FftInteger, Real16sTo32sAndBack) {
 }
 
 }  // namespace
+
+namespace {
+
+// Two-level orders through the wrapped double specs: a round trip (forward
+// unscaled, inverse scaled by 1/N) returns the data within one unit, the
+// forward's rounding to integers being at most 1/2 per value.
+TEST(FftInteger, TwoLevelRoundTrips) {
+    const int order = 18;
+    const size_t N = size_t(1) << order;
+    vt::Rng rng(4400);
+    {
+        FftSpec_C_32sc* spec = nullptr;
+        ASSERT_EQ(veksFFTInitAlloc_C_32sc(&spec, order, VEK_FFT_SCALE_INV, 0), VEK_OK);
+        std::vector<T32sc> x(N), y(N), z(N);
+        for (auto& v : x) v = {static_cast<T32s>(rng.range(-1000, 1000)), static_cast<T32s>(rng.range(-1000, 1000))};
+        ASSERT_EQ(veksFFTFwd_CToC_32sc_Sfs(x.data(), y.data(), spec, 0, nullptr), VEK_OK);
+        ASSERT_EQ(veksFFTInv_CToC_32sc_Sfs(y.data(), z.data(), spec, 0, nullptr), VEK_OK);
+        for (size_t i = 0; i < N; ++i) {
+            ASSERT_LE(abs(z[i].re - x[i].re), 1) << i;
+            ASSERT_LE(abs(z[i].im - x[i].im), 1) << i;
+        }
+        EXPECT_EQ(veksFFTFree_C_32sc(spec), VEK_OK);
+    }
+    {
+        FftSpec_R_32s* spec = nullptr;
+        ASSERT_EQ(veksFFTInitAlloc_R_32s(&spec, order + 1, VEK_FFT_SCALE_INV, 0), VEK_OK);
+        const size_t M = 2 * N;
+        std::vector<T32s> x(M), y(M + 2);
+        for (auto& v : x) v = static_cast<T32s>(rng.range(-1000, 1000));
+        y.assign(x.begin(), x.end());
+        y.resize(M + 2);
+        ASSERT_EQ(veksFFTFwd_RToCCS_32s_ISfs(y.data(), spec, 0, nullptr), VEK_OK);
+        ASSERT_EQ(veksFFTInv_CCSToR_32s_ISfs(y.data(), spec, 0, nullptr), VEK_OK);
+        for (size_t i = 0; i < M; ++i) ASSERT_LE(abs(y[i] - x[i]), 1) << i;
+        EXPECT_EQ(veksFFTFree_R_32s(spec), VEK_OK);
+    }
+}
+
+}  // namespace
