@@ -319,9 +319,7 @@ inline VekResult checkSizeQuery(int order, int flag, int maxOrder, const int* a,
 
 enum class Kind { Complex, Real };
 
-// Every spec kind: its identifier, the floating precision it computes in,
-// the inner kind it wraps (for the integer kinds), the bytes per element of
-// the converted data those keep in the work buffer.
+// Sizes and maximum order of a floating kind.
 template <class T>
 Sizes floatSizes(Kind kind, int order) {
     return kind == Kind::Complex ? complexSizes<T>(order) : realSizes<T>(order);
