@@ -98,15 +98,29 @@ void scaleValues(const T* src, T* dst, size_t n, T factor) {
     for (size_t i = 0; i < n; ++i) dst[i] = src[i] * factor;
 }
 
+// The twist walks its row in blocks of 64: w^(r*c) = w^(r*c0) * w^(r*j), so
+// that only two table entries per block are read instead of one per value
+// (the table is far larger than the caches at the orders that use it).
 template <class T>
 void twistRow(Cx<T>* row, size_t cols, size_t r, const Cx<T>* half, size_t N, bool inverse) {
     const size_t mask = N - 1, h = N / 2;
-    size_t idx = 0;
-    for (size_t c = 0; c < cols; ++c, idx = (idx + r) & mask) {
-        Cx<T> w = idx < h ? half[idx] : Cx<T>{-half[idx - h].re, -half[idx - h].im};
-        if (inverse) w.im = -w.im;
-        const Cx<T> v = row[c];
-        row[c] = {v.re * w.re - v.im * w.im, v.re * w.im + v.im * w.re};
+    auto at = [&](size_t idx) {
+        return idx < h ? half[idx] : Cx<T>{-half[idx - h].re, -half[idx - h].im};
+    };
+    constexpr size_t kBlock = 64;
+    Cx<T> step[kBlock];
+    for (size_t j = 0; j < kBlock; ++j) step[j] = at((r * j) & mask);
+    const T sign = inverse ? T(-1) : T(1);
+    for (size_t c0 = 0; c0 < cols; c0 += kBlock) {
+        const Cx<T> b = at((r * c0) & mask);
+        const size_t n = cols - c0 < kBlock ? cols - c0 : kBlock;
+        Cx<T>* x = row + c0;
+        for (size_t j = 0; j < n; ++j) {
+            const T wr = b.re * step[j].re - b.im * step[j].im;
+            const T wi = sign * (b.re * step[j].im + b.im * step[j].re);
+            const Cx<T> v = x[j];
+            x[j] = {v.re * wr - v.im * wi, v.re * wi + v.im * wr};
+        }
     }
 }
 
