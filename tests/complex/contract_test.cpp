@@ -1,5 +1,6 @@
-// The contract of every export of this folder, generated per argument
-// shape: a null required pointer gives VEK_ERR_NULL_POINTER before a length
+// The contract of every export of this family (complex and polar data,
+// Flip, Preemphasize, and the copies and fills of tests/init), generated per
+// argument shape: a null required pointer gives VEK_ERR_NULL_POINTER before a length
 // below 1 gives VEK_ERR_SIZE, and an error writes nothing anywhere.
 #include <functional>
 
@@ -26,6 +27,12 @@ Row row(const char* n, VekResult (*f)(A*, int)) { return {n, 1, [f](P p, int l) 
 template <class A, class B>
 Row row(const char* n, VekResult (*f)(const A*, B*, int)) {
     return {n, 2, [f](P p, int l) { return f(at<const A>(p, 0), at<B>(p, 1), l); }};
+}
+template <class T>
+Row row(const char* n, VekResult (*f)(T, T*, int)) { return {n, 1, [f](P p, int l) { return f(T{}, at<T>(p, 0), l); }}; }
+template <class A, class B>
+Row row(const char* n, VekResult (*f)(const A*, int, B*, int, int)) {
+    return {n, 2, [f](P p, int l) { return f(at<const A>(p, 0), 3, at<B>(p, 1), 9, l); }};
 }
 template <class A, class B>
 Row row(const char* n, VekResult (*f)(const A*, B*, int, int)) {
@@ -97,6 +104,15 @@ const std::vector<Row> kRows = {
     ROW(veksFlip_32f_I), ROW(veksFlip_64f), ROW(veksFlip_64f_I), ROW(veksFlip_32fc), ROW(veksFlip_32fc_I),
     ROW(veksFlip_64fc), ROW(veksFlip_64fc_I), ROW(veksPreemphasize_32f), ROW(veksPreemphasize_32f_I),
     ROW(veksPreemphasize_16s), ROW(veksPreemphasize_16s_I),
+    ROW(veksCopy_8u), ROW(veksCopy_16s), ROW(veksCopy_16sc), ROW(veksCopy_32s), ROW(veksCopy_32f), ROW(veksCopy_32sc),
+    ROW(veksCopy_32fc), ROW(veksCopy_64s), ROW(veksCopy_64f), ROW(veksCopy_64sc), ROW(veksCopy_64fc),
+    ROW(veksMove_8u), ROW(veksMove_16s), ROW(veksMove_16sc), ROW(veksMove_32s), ROW(veksMove_32f), ROW(veksMove_32sc),
+    ROW(veksMove_32fc), ROW(veksMove_64s), ROW(veksMove_64f), ROW(veksMove_64sc), ROW(veksMove_64fc),
+    ROW(veksZero_8u), ROW(veksZero_16s), ROW(veksZero_16sc), ROW(veksZero_32s), ROW(veksZero_32f), ROW(veksZero_32sc),
+    ROW(veksZero_32fc), ROW(veksZero_64s), ROW(veksZero_64f), ROW(veksZero_64sc), ROW(veksZero_64fc),
+    ROW(veksSet_8u), ROW(veksSet_16s), ROW(veksSet_16sc), ROW(veksSet_32s), ROW(veksSet_32f), ROW(veksSet_32sc),
+    ROW(veksSet_32fc), ROW(veksSet_64s), ROW(veksSet_64f), ROW(veksSet_64sc), ROW(veksSet_64fc),
+    ROW(veksCopy_1u), ROW(veksCopyLE_1u), ROW(veksCopyBE_1u),
     late(ROW(veksCartToPolar_16sc_Sfs), 0x3), late(ROW(veksCartToPolar_32fc), 0x1),
     late(ROW(veksCartToPolar_64fc), 0x1), late(ROW(veksCartToPolar_32f), 0x3), late(ROW(veksCartToPolar_64f), 0x3),
 };

@@ -87,29 +87,28 @@ TEST(ComplexParts, EveryType) {
                              veksCplxToReal_64fc, veksRealToCplx_64f}, 33);
 }
 
-TEST(ComplexParts, RealToCplxNullSourceRule) {
-    // Either source may be missing (its parts read as +0), not both.
-    const T32f re[3] = {1, -0.0f, 3}, im[3] = {4, 5, -6};
-    const struct { const T32f* re; const T32f* im; bool dst; int len; VekResult want; } cases[] = {
+// RealToCplx: either source may be missing (its parts read as +0), not both.
+template <class B, class C>
+void checkRealToCplxNulls(VekResult (*f)(const B*, const B*, C*, int)) {
+    const B re[3] = {1, B(-0.0), 3}, im[3] = {4, 5, std::numeric_limits<B>::lowest()};
+    const struct { const B* re; const B* im; bool dst; int len; VekResult want; } cases[] = {
         {nullptr, im, true, 3, VEK_OK}, {re, nullptr, true, 3, VEK_OK}, {nullptr, nullptr, true, 3, VEK_ERR_NULL_POINTER},
         {re, im, false, 0, VEK_ERR_NULL_POINTER}, {nullptr, nullptr, true, 0, VEK_ERR_SIZE}, {re, im, true, -1, VEK_ERR_SIZE},
     };
     for (const auto& c : cases) {
-        vt::Guarded<T32fc> dst(3);
+        vt::Guarded<C> dst(3);
         dst.freeze();
-        ASSERT_EQ(veksRealToCplx_32f(c.re, c.im, c.dst ? dst.data() : nullptr, c.len), c.want);
-        if (c.want != VEK_OK) {
-            EXPECT_TRUE(dst.intact());
-            continue;
-        }
-        std::vector<T32fc> want(3);
-        for (int i = 0; i < 3; ++i) want[i] = {c.re ? re[i] : 0.0f, c.im ? im[i] : 0.0f};
-        EXPECT_TRUE(sameBits(dst.data(), want));
+        ASSERT_EQ(f(c.re, c.im, c.dst ? dst.data() : nullptr, c.len), c.want);
+        std::vector<C> want(3);
+        for (int i = 0; i < 3; ++i) want[i] = {c.re ? re[i] : B(0), c.im ? im[i] : B(0)};
+        EXPECT_TRUE(c.want == VEK_OK ? sameBits(dst.data(), want) : dst.intact());
     }
-    const T16s r16[2] = {-32768, 7};
-    T16sc d16[2];
-    ASSERT_EQ(veksRealToCplx_16s(r16, nullptr, d16, 2), VEK_OK);
-    EXPECT_TRUE(d16[0].re == -32768 && d16[0].im == 0 && d16[1].re == 7 && d16[1].im == 0);
+}
+
+TEST(ComplexParts, RealToCplxNullSourceRule) {
+    checkRealToCplxNulls(veksRealToCplx_16s);
+    checkRealToCplxNulls(veksRealToCplx_32f);
+    checkRealToCplxNulls(veksRealToCplx_64f);
 }
 
 // Flip: out of place, in place, and out of place with the source as destination.
