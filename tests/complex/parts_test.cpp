@@ -34,44 +34,37 @@ B negated(B v) {
     else return v == std::numeric_limits<B>::min() ? std::numeric_limits<B>::max() : static_cast<B>(-v);
 }
 
+// Conj, Conj_I, ConjFlip, Real, Imag, CplxToReal and RealToCplx of one type.
 template <class C, class B>
-struct ConjSet {
-    VekResult (*conj)(const C*, C*, int);
-    VekResult (*conjI)(C*, int);
-    VekResult (*conjFlip)(const C*, C*, int);
-    VekResult (*real)(const C*, B*, int);
-    VekResult (*imag)(const C*, B*, int);
-    VekResult (*toReal)(const C*, B*, B*, int);
-    VekResult (*fromReal)(const B*, const B*, C*, int);
-};
-
-template <class C, class B>
-void checkParts(const ConjSet<C, B>& f, uint64_t seed) {
+void checkParts(VekResult (*conj)(const C*, C*, int), VekResult (*conjI)(C*, int), VekResult (*conjFlip)(const C*, C*, int),
+                VekResult (*real)(const C*, B*, int), VekResult (*imag)(const C*, B*, int),
+                VekResult (*toReal)(const C*, B*, B*, int), VekResult (*fromReal)(const B*, const B*, C*, int),
+                uint64_t seed) {
     vt::Rng rng(seed);
     const std::vector<B> edges = vt::edgeValues<B>();
     for (int len : vt::tailLengths()) {
         const size_t n = static_cast<size_t>(len);
         for (int ms : vt::misalignments()) {
-            std::vector<C> data(n), conj(n), flip(n);
+            std::vector<C> data(n), wantConj(n), wantFlip(n);
             std::vector<B> re(n), im(n);
             for (size_t i = 0; i < n; ++i) {
                 re[i] = data[i].re = (i % 5 == 2) ? edges[(i / 5) % edges.size()] : rng.next<B>(-1e3, 1e3);
                 im[i] = data[i].im = (i % 7 == 3) ? edges[(i / 7 + 1) % edges.size()] : rng.next<B>(-1e3, 1e3);
             }
             for (size_t i = 0; i < n; ++i) {
-                conj[i] = {data[i].re, negated(data[i].im)};
-                flip[n - 1 - i] = conj[i];
+                wantConj[i] = {data[i].re, negated(data[i].im)};
+                wantFlip[n - 1 - i] = wantConj[i];
             }
-            outOfPlace(f.conj, data, conj, ms);
-            inPlace(f.conjI, data, conj, ms);
-            outOfPlace(f.conjFlip, data, flip, ms);
-            outOfPlace(f.real, data, re, ms);
-            outOfPlace(f.imag, data, im, ms);
+            outOfPlace(conj, data, wantConj, ms);
+            inPlace(conjI, data, wantConj, ms);
+            outOfPlace(conjFlip, data, wantFlip, ms);
+            outOfPlace(real, data, re, ms);
+            outOfPlace(imag, data, im, ms);
             vt::Guarded<C> src(data, ms), back(n, 2);
             vt::Guarded<B> r(n, 1), i(n, 3 - ms);
-            ASSERT_EQ(f.toReal(src.data(), r.data(), i.data(), len), VEK_OK);
+            ASSERT_EQ(toReal(src.data(), r.data(), i.data(), len), VEK_OK);
             ASSERT_TRUE(sameBits(r.data(), re) && sameBits(i.data(), im)) << len;
-            ASSERT_EQ(f.fromReal(r.data(), i.data(), back.data(), len), VEK_OK);
+            ASSERT_EQ(fromReal(r.data(), i.data(), back.data(), len), VEK_OK);
             ASSERT_TRUE(sameBits(back.data(), data)) << len;
             ASSERT_TRUE(r.intact() && i.intact() && back.intact() && src.intact());
         }
@@ -79,12 +72,12 @@ void checkParts(const ConjSet<C, B>& f, uint64_t seed) {
 }
 
 TEST(ComplexParts, EveryType) {
-    checkParts<T16sc, T16s>({veksConj_16sc, veksConj_16sc_I, veksConjFlip_16sc, veksReal_16sc, veksImag_16sc,
-                             veksCplxToReal_16sc, veksRealToCplx_16s}, 31);
-    checkParts<T32fc, T32f>({veksConj_32fc, veksConj_32fc_I, veksConjFlip_32fc, veksReal_32fc, veksImag_32fc,
-                             veksCplxToReal_32fc, veksRealToCplx_32f}, 32);
-    checkParts<T64fc, T64f>({veksConj_64fc, veksConj_64fc_I, veksConjFlip_64fc, veksReal_64fc, veksImag_64fc,
-                             veksCplxToReal_64fc, veksRealToCplx_64f}, 33);
+    checkParts(veksConj_16sc, veksConj_16sc_I, veksConjFlip_16sc, veksReal_16sc, veksImag_16sc, veksCplxToReal_16sc,
+               veksRealToCplx_16s, 31);
+    checkParts(veksConj_32fc, veksConj_32fc_I, veksConjFlip_32fc, veksReal_32fc, veksImag_32fc, veksCplxToReal_32fc,
+               veksRealToCplx_32f, 32);
+    checkParts(veksConj_64fc, veksConj_64fc_I, veksConjFlip_64fc, veksReal_64fc, veksImag_64fc, veksCplxToReal_64fc,
+               veksRealToCplx_64f, 33);
 }
 
 // RealToCplx: either source may be missing (its parts read as +0), not both.
