@@ -13,14 +13,15 @@
 namespace {
 
 // Random parts with edge values in lane positions; 32-bit integers shifted
-// by random amounts so that every magnitude occurs; every twelfth pair
-// random bit patterns.
+// by random amounts so that every magnitude occurs; small parts at random
+// positions; every twelfth pair random bit patterns.
 template <class B>
 std::vector<B> partData(vt::Rng& rng, size_t n, double range) {
     std::vector<B> v = rng.vec<B>(n, -range, range);
     const std::vector<B> edges = vt::edgeValues<B>();
     for (size_t i = 0; i < n; ++i) {
         if constexpr (std::is_same<B, T32s>::value) v[i] = static_cast<B>(v[i] >> rng.range(0, 31));
+        if (rng.range(0, 15) == 0) v[i] = static_cast<B>(rng.range(-3, 3));  // tiny angles against large parts
         if (i % 12 == 5) {
             const uint64_t bits = rng.engine()();
             memcpy(&v[i], &bits, sizeof(B));
