@@ -81,7 +81,8 @@ TEST(KernelAccuracy, Atan2Sweep) {
     }
     ASSERT_EQ(veksPhase_32f(x.data(), y.data(), out.data(), int(x.size())), VEK_OK);
     int64_t w = 0;
-    for (size_t i = 0; i < x.size(); ++i) w = std::max(w, vt::ulpDistance(out[i], static_cast<float>(atan2l(y[i], x[i]))));
+    for (size_t i = 0; i < x.size(); ++i)
+        w = std::max(w, vt::ulpDistance(out[i], static_cast<float>(atan2l(y[i], x[i]))));
     std::cout << "atan2: " << x.size() << " pairs, max ulp " << w << "\n";
     EXPECT_LE(w, kKernelMaxUlp);
 }

@@ -29,7 +29,9 @@ Row row(const char* n, VekResult (*f)(const A*, B*, int)) {
     return {n, 2, [f](P p, int l) { return f(at<const A>(p, 0), at<B>(p, 1), l); }};
 }
 template <class T>
-Row row(const char* n, VekResult (*f)(T, T*, int)) { return {n, 1, [f](P p, int l) { return f(T{}, at<T>(p, 0), l); }}; }
+Row row(const char* n, VekResult (*f)(T, T*, int)) {
+    return {n, 1, [f](P p, int l) { return f(T{}, at<T>(p, 0), l); }};
+}
 template <class A, class B>
 Row row(const char* n, VekResult (*f)(const A*, int, B*, int, int)) {
     return {n, 2, [f](P p, int l) { return f(at<const A>(p, 0), 3, at<B>(p, 1), 9, l); }};

@@ -92,21 +92,24 @@ TEST(Magnitude, FloatingFormulasExact) {
     layouts<T16sc, T16s, T32f>(6, 0, veksMagnitude_16sc32f, veksMagnitude_16s32f, [](double r, double i, T32f got) {
         return same(got, static_cast<float>(sqrt(r * r + i * i)));
     });
-    layouts<T16sc, T16s, T32f>(7, 0, veksPowerSpectr_16sc32f, veksPowerSpectr_16s32f, [](int64_t r, int64_t i, T32f got) {
-        return same(got, static_cast<float>(r * r + i * i));
-    });
+    layouts<T16sc, T16s, T32f>(
+        7, 0, veksPowerSpectr_16sc32f, veksPowerSpectr_16s32f,
+        [](int64_t r, int64_t i, T32f got) { return same(got, static_cast<float>(r * r + i * i)); });
 }
 
 TEST(Magnitude, ScaledIntegerMembers) {
     for (int sf : {INT32_MIN, -40, -31, -30, -17, -1, 0, 1, 5, 15, 16, 17, 31, 32, 33, 40, 63, 64, 70, INT32_MAX}) {
         SCOPED_TRACE(sf);
-        layouts<T16sc, T16s, T16s>(8, 0, withSf(veksMagnitude_16sc_Sfs, sf), withSf(veksMagnitude_16s_Sfs, sf),
-                                   [sf](T16s r, T16s i, T16s got) { return got == ref::magnitudeScaled<T16s>(r, i, sf); });
+        layouts<T16sc, T16s, T16s>(
+            8, 0, withSf(veksMagnitude_16sc_Sfs, sf), withSf(veksMagnitude_16s_Sfs, sf),
+            [sf](T16s r, T16s i, T16s got) { return got == ref::magnitudeScaled<T16s>(r, i, sf); });
         // The power spectrum is an exact integer: the scale-factor rule.
-        layouts<T16sc, T16s, T16s>(9, 0, withSf(veksPowerSpectr_16sc_Sfs, sf), withSf(veksPowerSpectr_16s_Sfs, sf),
-                                   [sf](int64_t r, int64_t i, T16s got) { return got == ref::scaled<T16s>(r * r + i * i, sf); });
+        layouts<T16sc, T16s, T16s>(
+            9, 0, withSf(veksPowerSpectr_16sc_Sfs, sf), withSf(veksPowerSpectr_16s_Sfs, sf),
+            [sf](int64_t r, int64_t i, T16s got) { return got == ref::scaled<T16s>(r * r + i * i, sf); });
         layouts<T32sc, T32s, T32s>(10, 0, withSf(veksMagnitude_32sc_Sfs, sf), nullptr, [sf](T32s r, T32s i, T32s got) {
-            const long double exact = ref::shift(sqrtl(static_cast<long double>(r) * r + static_cast<long double>(i) * i), sf);
+            const long double exact =
+                ref::shift(sqrtl(static_cast<long double>(r) * r + static_cast<long double>(i) * i), sf);
             return ref::nearHalf(exact, 1e-15L) || got == ref::magnitudeScaled<T32s>(r, i, sf);
         });
         layouts<T32sc, T32s, T32s>(11, 0, withSf(veksMagSquared_32sc32s_Sfs, sf), nullptr,
@@ -134,8 +137,9 @@ TEST(Phase, AgainstModels) {
     // rounding away from the long double model's.
     layouts<T32fc, T32f, T32f>(12, 1e4, veksPhase_32fc, veksPhase_32f,
                                [](T32f r, T32f i, T32f got) { return same(got, atan2Exact(i, r), 2); });
-    layouts<T64fc, T64f, T64f>(13, 1e4, veksPhase_64fc, veksPhase_64f,
-                               [](T64f r, T64f i, T64f got) { return same(got, static_cast<double>(atan2l(i, r)), 2); });
+    layouts<T64fc, T64f, T64f>(13, 1e4, veksPhase_64fc, veksPhase_64f, [](T64f r, T64f i, T64f got) {
+        return same(got, static_cast<double>(atan2l(i, r)), 2);
+    });
     layouts<T16sc, T16s, T32f>(14, 0, veksPhase_16sc32f, veksPhase_16s32f,
                                [](T16s r, T16s i, T32f got) { return same(got, atan2Exact(i, r), 1); });
     // Scale factors crossing each range of the 16-bit rule (and the extremes).

@@ -36,10 +36,10 @@ B negated(B v) {
 
 // Conj, Conj_I, ConjFlip, Real, Imag, CplxToReal and RealToCplx of one type.
 template <class C, class B>
-void checkParts(VekResult (*conj)(const C*, C*, int), VekResult (*conjI)(C*, int), VekResult (*conjFlip)(const C*, C*, int),
-                VekResult (*real)(const C*, B*, int), VekResult (*imag)(const C*, B*, int),
-                VekResult (*toReal)(const C*, B*, B*, int), VekResult (*fromReal)(const B*, const B*, C*, int),
-                uint64_t seed) {
+void checkParts(VekResult (*conj)(const C*, C*, int), VekResult (*conjI)(C*, int),
+                VekResult (*conjFlip)(const C*, C*, int), VekResult (*real)(const C*, B*, int),
+                VekResult (*imag)(const C*, B*, int), VekResult (*toReal)(const C*, B*, B*, int),
+                VekResult (*fromReal)(const B*, const B*, C*, int), uint64_t seed) {
     vt::Rng rng(seed);
     const std::vector<B> edges = vt::edgeValues<B>();
     for (int len : vt::tailLengths()) {
@@ -84,9 +84,14 @@ TEST(ComplexParts, EveryType) {
 template <class B, class C>
 void checkRealToCplxNulls(VekResult (*f)(const B*, const B*, C*, int)) {
     const B re[3] = {1, B(-0.0), 3}, im[3] = {4, 5, std::numeric_limits<B>::lowest()};
-    const struct { const B* re; const B* im; bool dst; int len; VekResult want; } cases[] = {
-        {nullptr, im, true, 3, VEK_OK}, {re, nullptr, true, 3, VEK_OK}, {nullptr, nullptr, true, 3, VEK_ERR_NULL_POINTER},
-        {re, im, false, 0, VEK_ERR_NULL_POINTER}, {nullptr, nullptr, true, 0, VEK_ERR_SIZE}, {re, im, true, -1, VEK_ERR_SIZE},
+    const struct { const B* re; const B* im; bool dst; int len; VekResult want;
+    } cases[] = {
+        {nullptr, im, true, 3, VEK_OK},
+        {re, nullptr, true, 3, VEK_OK},
+        {nullptr, nullptr, true, 3, VEK_ERR_NULL_POINTER},
+        {re, im, false, 0, VEK_ERR_NULL_POINTER},
+        {nullptr, nullptr, true, 0, VEK_ERR_SIZE},
+        {re, im, true, -1, VEK_ERR_SIZE},
     };
     for (const auto& c : cases) {
         vt::Guarded<C> dst(3);

@@ -32,8 +32,9 @@ void polarData(vt::Rng& rng, size_t n, double range, std::vector<B>& magn, std::
 }
 
 template <class B, class C>
-void checkFloatPolar(VekResult (*parts)(const B*, const B*, B*, B*, int), VekResult (*cplx)(const B*, const B*, C*, int),
-                     std::initializer_list<double> ranges, uint64_t seed) {
+void checkFloatPolar(VekResult (*parts)(const B*, const B*, B*, B*, int),
+                     VekResult (*cplx)(const B*, const B*, C*, int), std::initializer_list<double> ranges,
+                     uint64_t seed) {
     vt::Rng rng(seed);
     for (double range : ranges) {
         for (int len : vt::tailLengths()) {
@@ -103,7 +104,8 @@ TEST(PolarToCart, IntegerMembers) {
     for (int msf : {INT32_MIN, -100, -31, -3, 0, 2, 15, 31, 60}) {
         for (int psf : {-40, -31, 0, 12, 31, 99, INT32_MIN}) {
             ASSERT_EQ(veksPolarToCart_16sc_Sfs(m16.data(), p16.data(), out.data(), n, msf, psf), VEK_OK);
-            checkIntPolar<T16s>(m16, p16, out.data(), std::max(-31, std::min(31, msf)), std::max(-31, std::min(31, psf)));
+            checkIntPolar<T16s>(m16, p16, out.data(), std::max(-31, std::min(31, msf)),
+                                std::max(-31, std::min(31, psf)));
         }
     }
     std::vector<T32sc> out32(m32.size());

@@ -35,7 +35,8 @@ void checkAll(VekResult (*copy)(const T*, T*, int), VekResult (*move)(const T*, 
         for (int ms : vt::misalignments()) {
             const std::vector<T> data = randomElems<T>(rng, n), junk = randomElems<T>(rng, n);
             const vt::Guarded<T> src(data, ms);
-            for (int md : vt::misalignments()) inBuffer([&](T* d, int l) { return copy(src.data(), d, l); }, junk, data, md);
+            for (int md : vt::misalignments())
+                inBuffer([&](T* d, int l) { return copy(src.data(), d, l); }, junk, data, md);
             inBuffer([&](T* d, int l) { return move(src.data(), d, l); }, junk, data, (ms + 1) % 3);
             ASSERT_TRUE(src.intact());
             inBuffer(zero, junk, std::vector<T>(n), ms);  // all-zero bytes
@@ -80,8 +81,10 @@ TEST(CopyMoveSetZero, LargeFillsKeepFloatBits) {
     memcpy(&nan, &bits, 4);
     const T64fc v = {-0.0, 1.5};
     const size_t n32 = (32 << 20) / 4 + 3, n64 = 300001;
-    inBuffer([&](T32f* d, int l) { return veksSet_32f(nan, d, l); }, std::vector<T32f>(n32), std::vector<T32f>(n32, nan), 1);
-    inBuffer([&](T64fc* d, int l) { return veksSet_64fc(v, d, l); }, std::vector<T64fc>(n64), std::vector<T64fc>(n64, v), 1);
+    inBuffer([&](T32f* d, int l) { return veksSet_32f(nan, d, l); }, std::vector<T32f>(n32),
+             std::vector<T32f>(n32, nan), 1);
+    inBuffer([&](T64fc* d, int l) { return veksSet_64fc(v, d, l); }, std::vector<T64fc>(n64),
+             std::vector<T64fc>(n64, v), 1);
 }
 
 }  // namespace
