@@ -35,18 +35,37 @@ inline bool nearHalf(long double v, long double rel = 1e-12L) {
     return d <= rel * (fabsl(v) > 1 ? fabsl(v) : 1);
 }
 
+// v * 2^-sf for any int sf (beyond +-2000 every result saturates or is 0).
+inline long double shift(long double v, int sf) { return ldexpl(v, sf < -2000 ? 2000 : sf > 2000 ? -2000 : -sf); }
+
+// An exact value times 2^-sf, nearest with ties to even, saturated to T.
+template <class T>
+T scaled(int64_t v, int sf) {
+    return saturateL<T>(roundEven(shift(static_cast<long double>(v), sf)));
+}
+
 // sqrt(re^2 + im^2) * 2^-sf, nearest with ties to even, saturated to T.
 template <class T>
 T magnitudeScaled(int64_t re, int64_t im, int sf) {
     const long double n = static_cast<long double>(re) * re + static_cast<long double>(im) * im;
-    return saturateL<T>(roundEven(ldexpl(sqrtl(n), -sf)));
+    return saturateL<T>(roundEven(shift(sqrtl(n), sf)));
+}
+
+// 32-bit squared magnitude: the sum of squares in double on purpose, times
+// 2^-sf in double; past the range of the factor every result is 0, or
+// saturated unless the source is zero.
+inline int32_t magSquaredScaled32(int32_t re, int32_t im, int sf) {
+    if (sf > 63) return 0;
+    if (sf <= -31) return re == 0 && im == 0 ? 0 : std::numeric_limits<int32_t>::max();
+    const double r = re, i = im;
+    return saturateL<int32_t>(roundEven(static_cast<long double>((r * r + i * i) * ldexp(1.0, -sf))));
 }
 
 // Scaled 16-bit phase: the rule in its four ranges of scale factors.
 inline int16_t phaseScaled16(int re, int im, int sf) {
     if (sf >= 2) return 0;
     const long double a = atan2l(static_cast<long double>(im), static_cast<long double>(re));
-    const float factor = ldexpf(1.0f, -sf);  // the single-precision factor (infinite from -128 on)
+    const float factor = ldexpf(1.0f, sf < -1000 ? 1000 : -sf);  // the single-precision factor (infinite from -128 on)
     if (sf >= -28) {
         const float af = static_cast<float>(a);  // the angle in single precision
         return saturateL<int16_t>(roundEven(static_cast<long double>(af * factor)));
