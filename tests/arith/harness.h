@@ -37,12 +37,12 @@ T gen(vt::Rng& r) {
     }
 }
 
+// Complex edges pair every edge value with another.
 template <class T>
 std::vector<T> edges() {
     if constexpr (Cplx<T>::value) {
-        using B = decltype(T{}.re);
+        const auto e = vt::edgeValues<decltype(T{}.re)>();
         std::vector<T> v;
-        const auto e = vt::edgeValues<B>();
         for (size_t i = 0; i < e.size(); ++i) v.push_back(T{e[i], e[(i * 5 + 3) % e.size()]});
         return v;
     } else {
@@ -63,26 +63,15 @@ std::vector<T> data(vt::Rng& r, int n) {
 // Equal bits, or both NaN (NaN payloads are not part of any result).
 template <class T>
 bool same(const T& a, const T& b) {
-    if constexpr (Cplx<T>::value) {
-        return same(a.re, b.re) && same(a.im, b.im);
-    } else if constexpr (std::is_floating_point<T>::value) {
-        return (a != a && b != b) || memcmp(&a, &b, sizeof a) == 0;
-    } else {
-        return a == b;
-    }
+    if constexpr (Cplx<T>::value) return same(a.re, b.re) && same(a.im, b.im);
+    else if constexpr (std::is_floating_point<T>::value) return (a != a && b != b) || memcmp(&a, &b, sizeof a) == 0;
+    else return a == b;
 }
 
 template <class T>
 std::string show(const T& v) {
-    if constexpr (Cplx<T>::value) {
-        return "(" + show(v.re) + ", " + show(v.im) + ")";
-    } else if constexpr (std::is_floating_point<T>::value) {
-        char b[64];
-        snprintf(b, sizeof b, "%.9g", static_cast<double>(v));
-        return b;
-    } else {
-        return std::to_string(static_cast<long long>(v));
-    }
+    if constexpr (Cplx<T>::value) return "(" + show(v.re) + ", " + show(v.im) + ")";
+    else return ::testing::PrintToString(+v);
 }
 
 template <class TD>
@@ -143,10 +132,8 @@ T one() {
 }
 template <class T>
 bool isZero(const T& v) {
-    if constexpr (Cplx<T>::value)
-        return v.re == 0 && v.im == 0;
-    else
-        return v == 0;
+    if constexpr (Cplx<T>::value) return v.re == 0 && v.im == 0;
+    else return v == 0;
 }
 
 // The destination starts with random data, which the whole-vector models
