@@ -136,8 +136,9 @@ bool isZero(const T& v) {
     else return v == 0;
 }
 
-// The destination starts with random data, which the whole-vector models
-// read (accumulating exports) and the element models overwrite.
+// Out of place, the destination starts with random data. Whole-vector
+// models receive the destination's contents before the call: accumulating
+// exports read them, refused calls keep them.
 template <class T1, class T2, class TD>
 void check(const Case<T1, T2, TD>& c, uint64_t seed) {
     SCOPED_TRACE(c.name);
@@ -155,6 +156,9 @@ void check(const Case<T1, T2, TD>& c, uint64_t seed) {
                 vt::Guarded<T1> g1(x1, m);
                 vt::Guarded<T2> g2(x2, (m * 2) % 4);
                 vt::Guarded<TD> gd(want, m);
+                // what the destination holds before the call, which a model may read or keep
+                if (c.shape == Shape::BinaryInPlace) memcpy(want.data(), x2.data(), n * sizeof(TD));
+                if (c.shape == Shape::ConstInPlace) memcpy(want.data(), x1.data(), n * sizeof(TD));
                 VekResult wantSt = VEK_OK;
                 if (c.refv)
                     wantSt = c.refv(x1.data(), x2.data(), want.data(), n, p.sf);
