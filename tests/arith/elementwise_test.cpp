@@ -3,8 +3,6 @@
 
 namespace {
 
-int clampSf(int sf) { return sf < -200 ? -200 : sf > 1000 ? 1000 : sf; }
-
 template <class T>
 ref::Big big(T v) {
     if constexpr (std::is_same<T, T64u>::value)
@@ -29,29 +27,22 @@ TD refOf(T1 x1, T2 x2, int sf) {
             // 32-bit parts give exact values up to 2^63: kept as Big values.
             const ref::Big re = ref::addBig(ref::mulBig(x1.re, x2.re), ref::negBig(ref::mulBig(x1.im, x2.im)));
             const ref::Big im = ref::addBig(ref::mulBig(x1.re, x2.im), ref::mulBig(x1.im, x2.re));
-            const ref::Big lo = ref::bigOf(std::numeric_limits<B>::min()), hi = ref::bigOf(std::numeric_limits<B>::max());
-            auto narrow = [&](const ref::Big& v) {
-                const ref::Big r = ref::scaleBig(v, sf, lo, hi);
-                return static_cast<B>(r.neg ? -static_cast<int64_t>(r.lo) : static_cast<int64_t>(r.lo));
-            };
-            return TD{narrow(re), narrow(im)};
+            return TD{ref::scaleWide<B>(re, sf), ref::scaleWide<B>(im, sf)};
         }
     } else if constexpr (at::Cplx<TD>::value) {
         using B = decltype(TD{}.re);
         return TD{refOf<B, B, B, op>(x1.re, x2.re, sf), refOf<B, B, B, op>(x1.im, x2.im, sf)};
     } else if constexpr (std::is_floating_point<TD>::value) {
         return ref::apply<TD>(op, static_cast<TD>(x1), static_cast<TD>(x2));
-    } else if constexpr (sizeof(TD) == 8) {
-        return ref::scaleWide<TD>(ref::applyBig(op, big(x1), big(x2)), sf);
     } else {
-        return ref::scale<TD>(ref::apply<int64_t>(op, x1, x2), clampSf(sf));
+        return ref::scaleWide<TD>(ref::applyBig(op, big(x1), big(x2)), sf);
     }
 }
 
 // The product wrapped to its low 32 bits, then scaled.
 T32s refMulLow(T32s x1, T32s x2, int sf) {
     const uint32_t low = static_cast<uint32_t>(x1) * static_cast<uint32_t>(x2);
-    return ref::scale<T32s>(static_cast<int32_t>(low), clampSf(sf));
+    return ref::scaleWide<T32s>(ref::bigOf(static_cast<int32_t>(low)), sf);
 }
 
 template <class V>

@@ -136,12 +136,11 @@ inline Big scaleBig(Big v, int sf, const Big& lo, const Big& hi) {
     return v;
 }
 
+// The scale rule on an exact value, saturated to the range of T.
 template <class T>
 T scaleWide(const Big& v, int sf) {
-    const bool isSigned = std::numeric_limits<T>::is_signed;
-    const Big lo = isSigned ? bigOf(std::numeric_limits<int64_t>::min()) : Big();
-    const Big hi = isSigned ? bigOf(std::numeric_limits<int64_t>::max()) : bigOfU(~0ull);
-    const Big r = scaleBig(v, sf, lo, hi);
+    using L = std::numeric_limits<T>;
+    const Big r = scaleBig(v, sf, L::is_signed ? bigOf(L::min()) : Big(), bigOfU(static_cast<uint64_t>(L::max())));
     return static_cast<T>(r.neg ? 0ull - r.lo : r.lo);
 }
 
