@@ -11,11 +11,6 @@ using C = at::Case<T1, T2, TD>;
 
 constexpr int kCurrent = -1;  // rounding by the processor's setting (the default: nearest even)
 
-template <class TD>
-TD satOf(long double v) {
-    return ref::clampTo<TD>(v);
-}
-
 // Integer quotient: the single-precision quotient of the converted operands
 // (rounded to nearest), times 2^-sf, rounded by the mode, saturated; a zero
 // divisor gives 0 or the end of the range by the dividend's sign. Every
@@ -32,13 +27,9 @@ TD divIntOne(int64_t divisor, int64_t dividend, int sf, int mode) {
     switch (mode) {
         case VEK_ROUND_ZERO: r = truncl(v); break;
         case VEK_ROUND_HALF_AWAY: r = roundl(v); break;
-        default: {
-            r = floorl(v);
-            const long double f = v - r;
-            if (f > 0.5L || (f == 0.5L && fmodl(r, 2.0L) != 0)) r += 1;
-        }
+        default: r = nearbyintl(v);  // the tests run in the default rounding, to nearest even
     }
-    return satOf<TD>(r);
+    return ref::clampTo<TD>(r);
 }
 
 // Swap: the first operand is the dividend (element / constant).
@@ -62,11 +53,11 @@ T16s ratio16(int64_t num, int64_t den, int sf) {
         int64_t q = num / den, r = num % den;  // toward zero
         const int64_t twice = 2 * (r < 0 ? -r : r);
         if (twice > den || (twice == den && (q % 2 != 0))) q += (num < 0) ? -1 : 1;
-        return satOf<T16s>(q);
+        return ref::clampTo<T16s>(q);
     }
     // far scale factors: 0 or saturation, decided well away from any tie
     const int s = sf < -400 ? -400 : sf > 400 ? 400 : sf;
-    return satOf<T16s>(nearbyintl(ldexpl(static_cast<long double>(num) / den, -s)));
+    return ref::clampTo<T16s>(nearbyintl(ldexpl(static_cast<long double>(num) / den, -s)));
 }
 
 template <bool Swap>
@@ -129,6 +120,20 @@ VekResult refDivFull(const T* x1, const T* x2, T* d, int n, int) {
     return z ? VEK_WRN_DIV_BY_ZERO : VEK_OK;
 }
 
+// Both forms of a Div_Round export, once per rounding mode, and for modes
+// out of range: refused after the common checks, nothing written.
+template <class T, class V>
+void roundRows(V& v, const char* name, const char* nameI, VekResult (*f)(const T*, const T*, T*, int, int, int),
+               VekResult (*fi)(const T*, T*, int, int, int)) {
+    for (int mode : {0, 1, 2, -1, 3, INT_MIN}) {
+        SCOPED_TRACE("mode " + std::to_string(mode));
+        std::function<VekResult(const T*, const T*, T*, int, int)> r = [](const T*, const T*, T*, int, int) { return VEK_ERR_ROUND_MODE; };
+        if (mode >= 0 && mode <= 2) r = mode == 0 ? refDivInt<T, T, T, false, 0> : mode == 1 ? refDivInt<T, T, T, false, 1> : refDivInt<T, T, T, false, 2>;
+        v(C<T, T, T>{name, Shape::Binary, true, [=](const T* x1, T* x2, T* d, T, int n, int sf) { return f(x1, x2, d, n, mode, sf); }, nullptr, r});
+        v(C<T, T, T>{nameI, Shape::BinaryInPlace, true, [=](const T* x1, T* x2, T*, T, int n, int sf) { return fi(x1, x2, n, mode, sf); }, nullptr, r});
+    }
+}
+
 template <class V>
 void visitDiv(V&& v) {
     AT_BIN_SFS(veksDiv_16s_Sfs, T16s, T16s, T16s, nullptr, refDivInt<T16s, T16s, T16s, false, kCurrent>, false);
@@ -140,28 +145,13 @@ void visitDiv(V&& v) {
     AT_BIN_SFS(veksDiv_32s_Sfs, T32s, T32s, T32s, nullptr, refDivInt<T32s, T32s, T32s, false, kCurrent>, false);
     AT_BIN_I_SFS(veksDiv_32s_ISfs, T32s, T32s, nullptr, refDivInt<T32s, T32s, T32s, false, kCurrent>, false);
     AT_BIN_SFS(veksDiv_32s16s_Sfs, T32s, T16s, T16s, nullptr, refDivInt<T32s, T16s, T16s, false, kCurrent>, false);
-    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_Sfs mode 0", Shape::Binary, true, [](const T16s* x1, T16s* x2, T16s* d, T16s, int n, int sf) { return veksDiv_Round_16s_Sfs(x1, x2, d, n, 0, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 0>, false});
-    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_ISfs mode 0", Shape::BinaryInPlace, true, [](const T16s* x1, T16s* x2, T16s*, T16s, int n, int sf) { return veksDiv_Round_16s_ISfs(x1, x2, n, 0, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 0>, false});
-    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_Sfs mode 1", Shape::Binary, true, [](const T16s* x1, T16s* x2, T16s* d, T16s, int n, int sf) { return veksDiv_Round_16s_Sfs(x1, x2, d, n, 1, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 1>, false});
-    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_ISfs mode 1", Shape::BinaryInPlace, true, [](const T16s* x1, T16s* x2, T16s*, T16s, int n, int sf) { return veksDiv_Round_16s_ISfs(x1, x2, n, 1, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 1>, false});
-    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_Sfs mode 2", Shape::Binary, true, [](const T16s* x1, T16s* x2, T16s* d, T16s, int n, int sf) { return veksDiv_Round_16s_Sfs(x1, x2, d, n, 2, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 2>, false});
-    v(C<T16s, T16s, T16s>{"veksDiv_Round_16s_ISfs mode 2", Shape::BinaryInPlace, true, [](const T16s* x1, T16s* x2, T16s*, T16s, int n, int sf) { return veksDiv_Round_16s_ISfs(x1, x2, n, 2, sf); }, nullptr, refDivInt<T16s, T16s, T16s, false, 2>, false});
+    roundRows<T16s>(v, "veksDiv_Round_16s_Sfs", "veksDiv_Round_16s_ISfs", veksDiv_Round_16s_Sfs, veksDiv_Round_16s_ISfs);
     AT_C_SFS(veksDivC_16s_Sfs, T16s, T16s, nullptr, refDivInt<T16s, T16s, T16s, true, kCurrent>, true);
     AT_C_I_SFS(veksDivC_16s_ISfs, T16s, nullptr, refDivInt<T16s, T16s, T16s, true, kCurrent>, true);
-    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_Sfs mode 0", Shape::Binary, true, [](const T16u* x1, T16u* x2, T16u* d, T16u, int n, int sf) { return veksDiv_Round_16u_Sfs(x1, x2, d, n, 0, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 0>, false});
-    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_ISfs mode 0", Shape::BinaryInPlace, true, [](const T16u* x1, T16u* x2, T16u*, T16u, int n, int sf) { return veksDiv_Round_16u_ISfs(x1, x2, n, 0, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 0>, false});
-    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_Sfs mode 1", Shape::Binary, true, [](const T16u* x1, T16u* x2, T16u* d, T16u, int n, int sf) { return veksDiv_Round_16u_Sfs(x1, x2, d, n, 1, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 1>, false});
-    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_ISfs mode 1", Shape::BinaryInPlace, true, [](const T16u* x1, T16u* x2, T16u*, T16u, int n, int sf) { return veksDiv_Round_16u_ISfs(x1, x2, n, 1, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 1>, false});
-    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_Sfs mode 2", Shape::Binary, true, [](const T16u* x1, T16u* x2, T16u* d, T16u, int n, int sf) { return veksDiv_Round_16u_Sfs(x1, x2, d, n, 2, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 2>, false});
-    v(C<T16u, T16u, T16u>{"veksDiv_Round_16u_ISfs mode 2", Shape::BinaryInPlace, true, [](const T16u* x1, T16u* x2, T16u*, T16u, int n, int sf) { return veksDiv_Round_16u_ISfs(x1, x2, n, 2, sf); }, nullptr, refDivInt<T16u, T16u, T16u, false, 2>, false});
+    roundRows<T16u>(v, "veksDiv_Round_16u_Sfs", "veksDiv_Round_16u_ISfs", veksDiv_Round_16u_Sfs, veksDiv_Round_16u_ISfs);
     AT_C_SFS(veksDivC_16u_Sfs, T16u, T16u, nullptr, refDivInt<T16u, T16u, T16u, true, kCurrent>, true);
     AT_C_I_SFS(veksDivC_16u_ISfs, T16u, nullptr, refDivInt<T16u, T16u, T16u, true, kCurrent>, true);
-    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_Sfs mode 0", Shape::Binary, true, [](const T8u* x1, T8u* x2, T8u* d, T8u, int n, int sf) { return veksDiv_Round_8u_Sfs(x1, x2, d, n, 0, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 0>, false});
-    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_ISfs mode 0", Shape::BinaryInPlace, true, [](const T8u* x1, T8u* x2, T8u*, T8u, int n, int sf) { return veksDiv_Round_8u_ISfs(x1, x2, n, 0, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 0>, false});
-    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_Sfs mode 1", Shape::Binary, true, [](const T8u* x1, T8u* x2, T8u* d, T8u, int n, int sf) { return veksDiv_Round_8u_Sfs(x1, x2, d, n, 1, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 1>, false});
-    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_ISfs mode 1", Shape::BinaryInPlace, true, [](const T8u* x1, T8u* x2, T8u*, T8u, int n, int sf) { return veksDiv_Round_8u_ISfs(x1, x2, n, 1, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 1>, false});
-    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_Sfs mode 2", Shape::Binary, true, [](const T8u* x1, T8u* x2, T8u* d, T8u, int n, int sf) { return veksDiv_Round_8u_Sfs(x1, x2, d, n, 2, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 2>, false});
-    v(C<T8u, T8u, T8u>{"veksDiv_Round_8u_ISfs mode 2", Shape::BinaryInPlace, true, [](const T8u* x1, T8u* x2, T8u*, T8u, int n, int sf) { return veksDiv_Round_8u_ISfs(x1, x2, n, 2, sf); }, nullptr, refDivInt<T8u, T8u, T8u, false, 2>, false});
+    roundRows<T8u>(v, "veksDiv_Round_8u_Sfs", "veksDiv_Round_8u_ISfs", veksDiv_Round_8u_Sfs, veksDiv_Round_8u_ISfs);
     AT_C_SFS(veksDivC_8u_Sfs, T8u, T8u, nullptr, refDivInt<T8u, T8u, T8u, true, kCurrent>, true);
     AT_C_I_SFS(veksDivC_8u_ISfs, T8u, nullptr, refDivInt<T8u, T8u, T8u, true, kCurrent>, true);
     AT_BIN_SFS(veksDiv_16sc_Sfs, T16sc, T16sc, T16sc, nullptr, refDiv16sc<false>);
@@ -199,91 +189,32 @@ TEST(Div, ChecksBeforeWriting) {
     visitDiv([](const auto& c) { at::contract(c); });
 }
 
+// Named quotients b / a: the zero-divisor substitutes, ties, the shortcut
+// ranges of far scale factors (a negative divisor flips the sign), and the
+// rounding setting: Div follows the processor's, Div_Round gives it back.
 TEST(Div, NamedValues) {
-    // b / a, and the substitutes of a zero divisor
-    const T16s a[3] = {0, 0, 0}, b[3] = {5, 0, -5};
-    T16s d[3];
-    EXPECT_EQ(veksDiv_16s_Sfs(a, b, d, 3, 0), VEK_WRN_DIV_BY_ZERO);
-    EXPECT_EQ(d[0], 32767);
-    EXPECT_EQ(d[1], 0);
-    EXPECT_EQ(d[2], -32768);
-    const T16s a2[2] = {3, -4}, b2[2] = {9, 10};
-    EXPECT_EQ(veksDiv_16s_Sfs(a2, b2, d, 2, 0), VEK_OK);
-    EXPECT_EQ(d[0], 3);
-    EXPECT_EQ(d[1], -2);  // -2.5 to even
-    // the shortcut ranges keep the signs: a negative divisor flips
-    const T16s a3[3] = {-7, 7, 0}, b3[3] = {1, -1, 0};
-    EXPECT_EQ(veksDiv_16s_Sfs(a3, b3, d, 3, -31), VEK_WRN_DIV_BY_ZERO);
-    EXPECT_EQ(d[0], -32768);
-    EXPECT_EQ(d[1], -32768);
-    EXPECT_EQ(d[2], 0);
-    EXPECT_EQ(veksDiv_16s_Sfs(a3, b3, d, 2, -31), VEK_OK);
-    // -32768 / -1 at scale 16 is exactly one half: 0 to nearest even, 1 away
-    const T16s a4 = -1, b4 = -32768;
-    EXPECT_EQ(veksDiv_16s_Sfs(&a4, &b4, d, 1, 16), VEK_OK);
-    EXPECT_EQ(d[0], 0);
-    EXPECT_EQ(veksDiv_Round_16s_Sfs(&a4, &b4, d, 1, VEK_ROUND_HALF_AWAY, 16), VEK_OK);
-    EXPECT_EQ(d[0], 1);
-    EXPECT_EQ(veksDiv_Round_16s_Sfs(&a4, &b4, d, 1, VEK_ROUND_HALF_AWAY, 17), VEK_OK);
-    EXPECT_EQ(d[0], 0);
-}
-
-TEST(Div, ZeroConstantIsAnErrorBeforeWriting) {
-    vt::Guarded<T16s> s(std::vector<T16s>{1, 2, 3}), d(3);
-    s.freeze();
-    d.freeze();
-    EXPECT_EQ(veksDivC_16s_Sfs(s.data(), 0, d.data(), 3, 0), VEK_ERR_DIV_BY_ZERO);
-    EXPECT_EQ(veksDivC_16s_ISfs(0, s.data(), 3, 0), VEK_ERR_DIV_BY_ZERO);
-    EXPECT_EQ(veksDivC_16s_Sfs(s.data(), 0, d.data(), 0, 0), VEK_ERR_SIZE);
-    EXPECT_EQ(veksDivC_16sc_ISfs(T16sc{0, 0}, reinterpret_cast<T16sc*>(s.data()), 1, 0), VEK_ERR_DIV_BY_ZERO);
-    EXPECT_EQ(veksDivC_16u_ISfs(0, reinterpret_cast<T16u*>(s.data()), 3, 0), VEK_ERR_DIV_BY_ZERO);
-    EXPECT_EQ(veksDivC_8u_ISfs(0, reinterpret_cast<T8u*>(s.data()), 3, 0), VEK_ERR_DIV_BY_ZERO);
-    EXPECT_EQ(veksDivC_32f_I(0.0f, reinterpret_cast<T32f*>(s.data()), 1), VEK_ERR_DIV_BY_ZERO);
-    EXPECT_EQ(veksDivC_32f_I(-0.0f, reinterpret_cast<T32f*>(s.data()), 1), VEK_ERR_DIV_BY_ZERO);
-    EXPECT_EQ(veksDivC_64f_I(0.0, reinterpret_cast<T64f*>(d.data()), 0), VEK_ERR_SIZE);
-    EXPECT_EQ(veksDivC_32fc_I(T32fc{0, 0}, reinterpret_cast<T32fc*>(s.data()), 0), VEK_ERR_SIZE);
-    T64fc c{1, 2};
-    EXPECT_EQ(veksDivC_64fc(&c, T64fc{0, 0}, &c, 1), VEK_ERR_DIV_BY_ZERO);
-    EXPECT_EQ(veksDivC_64fc(&c, T64fc{0, 1}, &c, 1), VEK_OK);  // zero only when both parts are
-    EXPECT_TRUE(s.intact());
-    EXPECT_TRUE(d.intact());
-}
-
-TEST(Div, RoundModeCheckedAfterPointersAndLength) {
-    vt::Guarded<T8u> a(std::vector<T8u>{1, 2}), b(std::vector<T8u>{3, 4}), d(2);
-    d.freeze();
-    b.freeze();
-    for (int mode : {-1, 3, 100, INT_MIN}) {
-        EXPECT_EQ(veksDiv_Round_8u_Sfs(a.data(), b.data(), d.data(), 2, mode, 0), VEK_ERR_ROUND_MODE);
-        EXPECT_EQ(veksDiv_Round_8u_Sfs(a.data(), b.data(), d.data(), 0, mode, 0), VEK_ERR_SIZE);
-        EXPECT_EQ(veksDiv_Round_8u_Sfs(nullptr, b.data(), d.data(), 2, mode, 0), VEK_ERR_NULL_POINTER);
-        EXPECT_EQ(veksDiv_Round_8u_ISfs(a.data(), b.data(), 2, mode, 0), VEK_ERR_ROUND_MODE);
-        EXPECT_EQ(veksDiv_Round_16s_ISfs(nullptr, nullptr, 2, mode, 0), VEK_ERR_NULL_POINTER);
-    }
-    EXPECT_TRUE(d.intact());
-    EXPECT_TRUE(b.intact());
-}
-
-// Div follows the processor's rounding; Div_Round does not, and gives the
-// caller's setting back.
-TEST(Div, RoundingSetting) {
-    const T16s a[4] = {2, 2, 4, 3}, b[4] = {3, -3, 10, 2};  // 1.5, -1.5, 2.5, 0.667
-    T16s d[4];
+    const struct { std::vector<T16s> a, b; int mode, sf, fe; VekResult st; std::vector<T16s> want; } cases[] = {
+        {{0, 0, 0}, {5, 0, -5}, -1, 0, FE_TONEAREST, VEK_WRN_DIV_BY_ZERO, {32767, 0, -32768}},
+        {{3, -4}, {9, 10}, -1, 0, FE_TONEAREST, VEK_OK, {3, -2}},
+        {{-7, 7, 0}, {1, -1, 0}, -1, -31, FE_TONEAREST, VEK_WRN_DIV_BY_ZERO, {-32768, -32768, 0}},
+        {{-7, 7}, {1, -1}, -1, -31, FE_TONEAREST, VEK_OK, {-32768, -32768}},
+        {{-1}, {-32768}, -1, 16, FE_TONEAREST, VEK_OK, {0}},  // exactly one half
+        {{-1}, {-32768}, VEK_ROUND_HALF_AWAY, 16, FE_TONEAREST, VEK_OK, {1}},
+        {{-1}, {-32768}, VEK_ROUND_HALF_AWAY, 17, FE_TONEAREST, VEK_OK, {0}},
+        {{2, 2, 4, 3}, {3, -3, 10, 2}, -1, 0, FE_TOWARDZERO, VEK_OK, {1, -1, 2, 0}},
+        {{2, 2, 4, 3}, {3, -3, 10, 2}, VEK_ROUND_NEAR, 0, FE_UPWARD, VEK_OK, {2, -2, 2, 1}},
+    };
     const int saved = fegetround();
-    fesetround(FE_TOWARDZERO);
-    EXPECT_EQ(veksDiv_16s_Sfs(a, b, d, 4, 0), VEK_OK);
-    EXPECT_EQ(d[0], 1);
-    EXPECT_EQ(d[1], -1);
-    EXPECT_EQ(d[2], 2);
-    EXPECT_EQ(d[3], 0);
-    fesetround(FE_UPWARD);
-    EXPECT_EQ(veksDiv_Round_16s_Sfs(a, b, d, 4, VEK_ROUND_NEAR, 0), VEK_OK);
-    EXPECT_EQ(d[0], 2);
-    EXPECT_EQ(d[1], -2);
-    EXPECT_EQ(d[2], 2);
-    EXPECT_EQ(d[3], 1);
-    EXPECT_EQ(fegetround(), FE_UPWARD);
-    fesetround(saved);
+    for (const auto& c : cases) {
+        std::vector<T16s> d(c.a.size());
+        const int n = static_cast<int>(d.size());
+        fesetround(c.fe);
+        EXPECT_EQ(c.mode < 0 ? veksDiv_16s_Sfs(c.a.data(), c.b.data(), d.data(), n, c.sf)
+                             : veksDiv_Round_16s_Sfs(c.a.data(), c.b.data(), d.data(), n, c.mode, c.sf), c.st);
+        EXPECT_EQ(fegetround(), c.fe);
+        fesetround(saved);
+        EXPECT_TRUE(at::sameAll(d.data(), c.want)) << "mode " << c.mode << " sf " << c.sf;
+    }
 }
 
 TEST(Div, FloatZeroDivisorBlocks) {
@@ -302,19 +233,21 @@ TEST(Div, FloatZeroDivisorBlocks) {
     const float v = 0.0f;
     EXPECT_EQ(veksDivCRev_32f(&v, 2.0f, d, 1), VEK_WRN_DIV_BY_ZERO);
     EXPECT_TRUE(isinf(d[0]));
+    // a constant is zero only when every part is, -0.0 included
+    EXPECT_EQ(veksDivC_32f(a, -0.0f, d, 1), VEK_ERR_DIV_BY_ZERO);
+    const T64fc c{1, 2};
+    T64fc dc;
+    EXPECT_EQ(veksDivC_64fc(&c, T64fc{0, 1}, &dc, 1), VEK_OK);
 }
 
 TEST(Div, CRev16uZeroCases) {
     const T16u s[4] = {0, 1, 2, 3};
     T16u d[4];
     EXPECT_EQ(veksDivCRev_16u(s, 0, d, 4), VEK_WRN_DIV_BY_ZERO);
-    for (T16u x : d) EXPECT_EQ(x, 0);
+    EXPECT_TRUE(at::sameAll(d, std::vector<T16u>{0, 0, 0, 0}));
     EXPECT_EQ(veksDivCRev_16u(s + 1, 0, d, 3), VEK_OK);
     EXPECT_EQ(veksDivCRev_16u(s, 7, d, 4), VEK_WRN_DIV_BY_ZERO);
-    EXPECT_EQ(d[0], 65535);
-    EXPECT_EQ(d[1], 7);
-    EXPECT_EQ(d[2], 4);  // 3.5 to even
-    EXPECT_EQ(d[3], 2);
+    EXPECT_TRUE(at::sameAll(d, std::vector<T16u>{65535, 7, 4, 2}));  // 3.5 to even
 }
 
 // DivC_64s_ISfs: the exact rational rounded. N / D by restoring long
@@ -379,29 +312,21 @@ TEST(Div, C64sExactQuotient) {
         }
     }
     // far scale factors: saturation by sign, or 0
-    const T64s x[3] = {1, -1, 0};
-    T64s d[3];
-    memcpy(d, x, sizeof d);
-    EXPECT_EQ(veksDivC_64s_ISfs(INT64_MIN, d, 3, INT_MIN), VEK_OK);
-    EXPECT_EQ(d[0], INT64_MIN);
-    EXPECT_EQ(d[1], INT64_MAX);
-    EXPECT_EQ(d[2], 0);
-    memcpy(d, x, sizeof d);
-    EXPECT_EQ(veksDivC_64s_ISfs(1, d, 3, INT_MAX), VEK_OK);
-    EXPECT_EQ(d[0], 0);
-    EXPECT_EQ(d[1], 0);
+    std::vector<T64s> d = {1, -1, 0};
+    EXPECT_EQ(veksDivC_64s_ISfs(INT64_MIN, d.data(), 3, INT_MIN), VEK_OK);
+    EXPECT_TRUE(at::sameAll(d.data(), std::vector<T64s>{INT64_MIN, INT64_MAX, 0}));
+    d = {1, -1, 0};
+    EXPECT_EQ(veksDivC_64s_ISfs(1, d.data(), 3, INT_MAX), VEK_OK);
+    EXPECT_TRUE(at::sameAll(d.data(), std::vector<T64s>{0, 0, 0}));
 }
 
 TEST(Div, C64sDepartures) {
     // a zero val warns and sends non-zero elements to the ends of the range
-    T64s d[4] = {5, -5, 0, INT64_MIN};
-    EXPECT_EQ(veksDivC_64s_ISfs(0, d, 4, 3), VEK_WRN_DIV_BY_ZERO);
-    EXPECT_EQ(d[0], INT64_MAX);
-    EXPECT_EQ(d[1], INT64_MIN);
-    EXPECT_EQ(d[2], 0);
-    EXPECT_EQ(d[3], INT64_MIN);
+    std::vector<T64s> d = {5, -5, 0, INT64_MIN};
+    EXPECT_EQ(veksDivC_64s_ISfs(0, d.data(), 4, 3), VEK_WRN_DIV_BY_ZERO);
+    EXPECT_TRUE(at::sameAll(d.data(), std::vector<T64s>{INT64_MAX, INT64_MIN, 0, INT64_MIN}));
     // only a zero length is refused; pointers come first
-    EXPECT_EQ(veksDivC_64s_ISfs(2, d, 0, 0), VEK_ERR_SIZE);
+    EXPECT_EQ(veksDivC_64s_ISfs(2, d.data(), 0, 0), VEK_ERR_SIZE);
     EXPECT_EQ(veksDivC_64s_ISfs(2, nullptr, 0, 0), VEK_ERR_NULL_POINTER);
     EXPECT_EQ(d[0], INT64_MAX);
 }

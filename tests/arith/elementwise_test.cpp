@@ -3,8 +3,6 @@
 
 namespace {
 
-int clampSf(int sf) { return sf < -200 ? -200 : sf > 1000 ? 1000 : sf; }
-
 template <class T>
 ref::Big big(T v) {
     if constexpr (std::is_same<T, T64u>::value)
@@ -29,38 +27,22 @@ TD refOf(T1 x1, T2 x2, int sf) {
             // 32-bit parts give exact values up to 2^63: kept as Big values.
             const ref::Big re = ref::addBig(ref::mulBig(x1.re, x2.re), ref::negBig(ref::mulBig(x1.im, x2.im)));
             const ref::Big im = ref::addBig(ref::mulBig(x1.re, x2.im), ref::mulBig(x1.im, x2.re));
-            const ref::Big lo = ref::bigOf(std::numeric_limits<B>::min()), hi = ref::bigOf(std::numeric_limits<B>::max());
-            auto narrow = [&](const ref::Big& v) {
-                const ref::Big r = ref::scaleBig(v, sf, lo, hi);
-                return static_cast<B>(r.neg ? -static_cast<int64_t>(r.lo) : static_cast<int64_t>(r.lo));
-            };
-            return TD{narrow(re), narrow(im)};
+            return TD{ref::scaleWide<B>(re, sf), ref::scaleWide<B>(im, sf)};
         }
     } else if constexpr (at::Cplx<TD>::value) {
         using B = decltype(TD{}.re);
         return TD{refOf<B, B, B, op>(x1.re, x2.re, sf), refOf<B, B, B, op>(x1.im, x2.im, sf)};
     } else if constexpr (std::is_floating_point<TD>::value) {
-        return ref::applyFloat<TD>(op, static_cast<TD>(x1), static_cast<TD>(x2));
-    } else if constexpr (sizeof(TD) == 8) {
-        ref::Big v;
-        if (op == ref::Op::Mul)
-            v = ref::mulBig(x1, x2);
-        else if (op == ref::Op::Add)
-            v = ref::addBig(big(x1), big(x2));
-        else if (op == ref::Op::Sub)
-            v = ref::addBig(big(x2), ref::negBig(big(x1)));
-        else
-            v = ref::addBig(big(x1), ref::negBig(big(x2)));
-        return ref::scaleWide<TD>(v, sf);
+        return ref::apply<TD>(op, static_cast<TD>(x1), static_cast<TD>(x2));
     } else {
-        return ref::scale<TD>(ref::applyInt(op, x1, x2), clampSf(sf));
+        return ref::scaleWide<TD>(ref::applyBig(op, big(x1), big(x2)), sf);
     }
 }
 
 // The product wrapped to its low 32 bits, then scaled.
 T32s refMulLow(T32s x1, T32s x2, int sf) {
     const uint32_t low = static_cast<uint32_t>(x1) * static_cast<uint32_t>(x2);
-    return ref::scale<T32s>(static_cast<int32_t>(low), clampSf(sf));
+    return ref::scaleWide<T32s>(ref::bigOf(static_cast<int32_t>(low)), sf);
 }
 
 template <class V>
@@ -244,17 +226,13 @@ TEST(Elementwise, ChecksBeforeWriting) {
     visitCases([](const auto& c) { at::contract(c); });
 }
 
-}  // namespace
-
-namespace {
-
 // A destination equal to a source runs the in-place form, before the null
 // tests: the product is the same either way round.
 TEST(Elementwise, ComplexProductWithAliasedDestination) {
     const std::vector<T16sc> a = {{300, -7}, {-32768, -32768}, {5, 9}}, b = {{-2, 11}, {-32768, -32768}, {1, 1}};
-    std::vector<T16sc> want(3);
+    std::vector<T16sc> want(3), d = a;
     ASSERT_EQ(veksMul_16sc_Sfs(a.data(), b.data(), want.data(), 3, 2), VEK_OK);
-    std::vector<T16sc> d = a;
+    EXPECT_EQ(want[1].im, 32767);  // 2^31 as an exact imaginary part saturates
     ASSERT_EQ(veksMul_16sc_Sfs(d.data(), b.data(), d.data(), 3, 2), VEK_OK);
     EXPECT_TRUE(at::sameAll(d.data(), want));
     d = b;
@@ -263,28 +241,21 @@ TEST(Elementwise, ComplexProductWithAliasedDestination) {
     d = b;
     EXPECT_EQ(veksMul_16sc_Sfs(nullptr, d.data(), d.data(), 3, 2), VEK_ERR_NULL_POINTER);
     EXPECT_EQ(veksMul_16sc_Sfs(a.data(), d.data(), d.data(), 0, 2), VEK_ERR_SIZE);
-    EXPECT_EQ(veksMul_16sc_Sfs(nullptr, nullptr, nullptr, 3, 2), VEK_ERR_NULL_POINTER);
     EXPECT_TRUE(at::sameAll(d.data(), b));
-    // 2^31 as an exact imaginary part (every part -32768) saturates
-    EXPECT_EQ(want[1].im, 32767);
 }
 
-// The named values of the scale rule through the exports.
+// Named values of the scale rule (b + a, b - a): ties to even, saturation,
+// scaling of a saturated sum happening on the exact value.
 TEST(Elementwise, NamedValues) {
     const struct { T16s a, b; int sf; T16s add, sub; } cases[] = {
         {1, 2, 1, 2, 0}, {2, 3, 1, 2, 0}, {-1, -2, 1, -2, 0}, {32767, 32767, 0, 32767, 0},
         {5, 1, -20, 32767, -32768}, {0, 0, -20, 0, 0}, {-32768, -32768, 17, 0, 0}, {3, 8, 1, 6, 2}};
     for (const auto& c : cases) {
-        T16s d = 0;
-        ASSERT_EQ(veksAdd_16s_Sfs(&c.a, &c.b, &d, 1, c.sf), VEK_OK);
-        EXPECT_EQ(d, c.add) << c.a << " + " << c.b << " sf " << c.sf;
-        ASSERT_EQ(veksSub_16s_Sfs(&c.a, &c.b, &d, 1, c.sf), VEK_OK);
-        EXPECT_EQ(d, c.sub) << c.b << " - " << c.a << " sf " << c.sf;
+        T16s d[2] = {0, 0};
+        ASSERT_EQ(veksAdd_16s_Sfs(&c.a, &c.b, d, 1, c.sf) | veksSub_16s_Sfs(&c.a, &c.b, d + 1, 1, c.sf), VEK_OK);
+        EXPECT_EQ(d[0], c.add) << c.a << " + " << c.b << " sf " << c.sf;
+        EXPECT_EQ(d[1], c.sub) << c.b << " - " << c.a << " sf " << c.sf;
     }
-    const T16s x = 300;
-    T16s d = 0;
-    ASSERT_EQ(veksMul_16s(&x, &x, &d, 1), VEK_OK);
-    EXPECT_EQ(d, 32767);
 }
 
 }  // namespace

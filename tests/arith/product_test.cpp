@@ -10,86 +10,23 @@ int clampSf(int sf) { return sf < -200 ? -200 : sf > 1000 ? 1000 : sf; }
 
 // d + a * b: the product rounded, then the sum; integers exact, scaled once.
 template <class TS, class TD>
-TD refAddProduct(TS a, TS b, TD d, int sf) {
-    if constexpr (at::Cplx<TD>::value) {
-        const TD p = ref::mulComplex(a, b);
-        return TD{d.re + p.re, d.im + p.im};
-    } else if constexpr (std::is_floating_point<TD>::value) {
-        const TD p = a * b;
-        return d + p;
-    } else {
-        return ref::scale<TD>(int64_t(d) + int64_t(a) * int64_t(b), clampSf(sf));
-    }
-}
-
-// Calls (a, b or the constant, d, len, sf); the constant form repeats b[0].
-template <class TS, class TD>
-struct ProductCase {
-    const char* name;
-    bool scaled;
-    bool constant;
-    std::function<VekResult(const TS*, const TS*, TD*, int, int)> call;
-};
-
-template <class TS, class TD>
-void checkProduct(const ProductCase<TS, TD>& c, uint64_t seed) {
-    SCOPED_TRACE(c.name);
-    vt::Rng rng(seed);
-    for (const at::Plan& p : at::plans(c.scaled)) {
-        for (int n : p.lengths) {
-            for (int m : p.misalign) {
-                SCOPED_TRACE("sf " + std::to_string(p.sf) + " len " + std::to_string(n) + " misalign " + std::to_string(m));
-                const std::vector<TS> a = at::data<TS>(rng, n);
-                std::vector<TS> b = at::data<TS>(rng, n);
-                if (c.constant) b.assign(n, b[0]);
-                const std::vector<TD> d0 = at::data<TD>(rng, n);
-                std::vector<TD> want(n);
-                for (int i = 0; i < n; ++i) want[i] = refAddProduct(a[i], b[i], d0[i], p.sf);
-                vt::Guarded<TS> ga(a, m), gb(b, (m + 1) % 4);
-                vt::Guarded<TD> gd(d0, (m + 2) % 4);
-                ga.freeze();
-                gb.freeze();
-                ASSERT_EQ(c.call(ga.data(), gb.data(), gd.data(), n, p.sf), VEK_OK);
-                ASSERT_TRUE(ga.intact() && gb.intact() && gd.intact());
-                ASSERT_TRUE(at::sameAll(gd.data(), want));
-            }
+VekResult refAddProduct(const TS* a, const TS* b, TD* d, int n, int sf) {
+    for (int i = 0; i < n; ++i) {
+        if constexpr (at::Cplx<TD>::value) {
+            const TD p = ref::mulComplex(a[i], b[i]);
+            d[i] = TD{d[i].re + p.re, d[i].im + p.im};
+        } else if constexpr (std::is_floating_point<TD>::value) {
+            const TD p = a[i] * b[i];
+            d[i] = d[i] + p;
+        } else {
+            d[i] = ref::scale<TD>(int64_t(d[i]) + int64_t(a[i]) * int64_t(b[i]), clampSf(sf));
         }
     }
-    // the common checks, with nothing written
-    vt::Guarded<TS> ga(4), gb(4);
-    vt::Guarded<TD> gd(4);
-    gd.freeze();
-    EXPECT_EQ(c.call(nullptr, gb.data(), gd.data(), 4, 0), VEK_ERR_NULL_POINTER);
-    if (!c.constant) {
-        EXPECT_EQ(c.call(ga.data(), nullptr, gd.data(), 4, 0), VEK_ERR_NULL_POINTER);
-    }
-    EXPECT_EQ(c.call(ga.data(), gb.data(), nullptr, 4, 0), VEK_ERR_NULL_POINTER);
-    EXPECT_EQ(c.call(nullptr, gb.data(), gd.data(), 0, 0), VEK_ERR_NULL_POINTER);
-    EXPECT_EQ(c.call(ga.data(), gb.data(), gd.data(), 0, 0), VEK_ERR_SIZE);
-    EXPECT_EQ(c.call(ga.data(), gb.data(), gd.data(), -4, 0), VEK_ERR_SIZE);
-    EXPECT_TRUE(gd.intact());
+    return VEK_OK;
 }
 
-TEST(AddProduct, MatchesReference) {
-    checkProduct(ProductCase<T16s, T16s>{"veksAddProduct_16s_Sfs", true, false, veksAddProduct_16s_Sfs}, 1201);
-    checkProduct(ProductCase<T16s, T32s>{"veksAddProduct_16s32s_Sfs", true, false, veksAddProduct_16s32s_Sfs}, 1202);
-    checkProduct(ProductCase<T32s, T32s>{"veksAddProduct_32s_Sfs", true, false, veksAddProduct_32s_Sfs}, 1203);
-    auto unscaled = [](auto f) {
-        return [f](auto a, auto b, auto d, int n, int) { return f(a, b, d, n); };
-    };
-    checkProduct(ProductCase<T32f, T32f>{"veksAddProduct_32f", false, false, unscaled(veksAddProduct_32f)}, 1204);
-    checkProduct(ProductCase<T64f, T64f>{"veksAddProduct_64f", false, false, unscaled(veksAddProduct_64f)}, 1205);
-    checkProduct(ProductCase<T32fc, T32fc>{"veksAddProduct_32fc", false, false, unscaled(veksAddProduct_32fc)}, 1206);
-    checkProduct(ProductCase<T64fc, T64fc>{"veksAddProduct_64fc", false, false, unscaled(veksAddProduct_64fc)}, 1207);
-    checkProduct(ProductCase<T32f, T32f>{"veksAddProductC_32f", false, true,
-                                         [](const T32f* a, const T32f* b, T32f* d, int n, int) {
-                                             return veksAddProductC_32f(a, b ? b[0] : 0.0f, d, n);
-                                         }},
-                 1208);
-}
-
-// x * val * 2^-sf to nearest even, saturated; the products in single
-// precision (double for the 64-bit form), whatever the caller's rounding.
+// x * val * 2^-sf to nearest even, saturated; the product in single
+// precision (computed here under the default rounding).
 T16s refMulC16s(float x, float val, int sf) {
     const float p = x * val;
     const long double v = ldexpl(static_cast<long double>(p), -clampSf(sf));
@@ -100,37 +37,63 @@ T16s refMulC16s(float x, float val, int sf) {
     return ref::clampTo<T16s>(r);
 }
 
+// Runs an export under the caller's rounding setting gRound; a setting not
+// given back shows as status 999.
+int gRound = FE_TONEAREST;
+template <class F>
+VekResult underRound(F f) {
+    fesetround(gRound);
+    const VekResult st = f();
+    const bool kept = fegetround() == gRound;
+    fesetround(FE_TONEAREST);
+    return kept ? st : 999;
+}
+
+template <class V>
+void visitProducts(V&& v) {
+    AT_BIN_SFS(veksAddProduct_16s_Sfs, T16s, T16s, T16s, nullptr, refAddProduct<T16s, T16s>);
+    AT_BIN_SFS(veksAddProduct_16s32s_Sfs, T16s, T16s, T32s, nullptr, refAddProduct<T16s, T32s>);
+    AT_BIN_SFS(veksAddProduct_32s_Sfs, T32s, T32s, T32s, nullptr, refAddProduct<T32s, T32s>);
+    AT_BIN(veksAddProduct_32f, T32f, T32f, T32f, nullptr, refAddProduct<T32f, T32f>);
+    AT_BIN(veksAddProduct_64f, T64f, T64f, T64f, nullptr, refAddProduct<T64f, T64f>);
+    AT_BIN(veksAddProduct_32fc, T32fc, T32fc, T32fc, nullptr, refAddProduct<T32fc, T32fc>);
+    AT_BIN(veksAddProduct_64fc, T64fc, T64fc, T64fc, nullptr, refAddProduct<T64fc, T64fc>);
+    AT_C(veksAddProductC_32f, T32f, T32f, nullptr, refAddProduct<T32f, T32f>);
+}
+
+// The float-to-integer products follow no rounding setting of the caller.
+template <class V>
+void visitMulCFloat(V&& v) {
+    using C = at::Case<T32f, T32f, T16s>;
+    v(C{"veksMulC_32f16s_Sfs", at::Shape::Const, true, [](const T32f* x, T32f*, T16s* d, T32f k, int n, int sf) {
+            return underRound([&] { return veksMulC_32f16s_Sfs(x, k, d, n, sf); });
+        }, refMulC16s});
+    v(C{"veksMulC_Low_32f16s", at::Shape::Const, false, [](const T32f* x, T32f*, T16s* d, T32f k, int n, int) {
+            return underRound([&] { return veksMulC_Low_32f16s(x, k, d, n); });
+        }, refMulC16s});
+}
+
+TEST(AddProduct, MatchesReference) {
+    uint64_t seed = 1200;
+    visitProducts([&](const auto& c) { at::check(c, ++seed); });
+    visitProducts([](const auto& c) { at::contract(c); });
+}
+
 TEST(MulCFloatToInt, MatchesReference) {
-    vt::Rng rng(1301);
-    const int saved = fegetround();
+    uint64_t seed = 1300;
     for (int round : {FE_TONEAREST, FE_UPWARD, FE_TOWARDZERO}) {
-        fesetround(round);
-        for (const at::Plan& p : at::plans(true)) {
-            for (int n : p.lengths) {
-                SCOPED_TRACE("sf " + std::to_string(p.sf) + " len " + std::to_string(n));
-                std::vector<float> x = at::data<float>(rng, n);
-                for (int i = 0; i < n; i += 5) x[i] = static_cast<float>(rng.range(-80000, 80000)) / 2;  // ties
-                const float val = (n % 4 == 0) ? 1.0f : at::gen<float>(rng);
-                std::vector<T16s> want(n);
-                for (int i = 0; i < n; ++i) {
-                    fesetround(FE_TONEAREST);
-                    want[i] = refMulC16s(x[i], val, p.sf);
-                    fesetround(round);
-                }
-                vt::Guarded<float> gx(x, n % 3);
-                vt::Guarded<T16s> gd(n, 1);
-                ASSERT_EQ(veksMulC_32f16s_Sfs(gx.data(), val, gd.data(), n, p.sf), VEK_OK);
-                ASSERT_TRUE(gd.intact());
-                ASSERT_TRUE(at::sameAll(gd.data(), want));
-                if (p.sf == 0) {
-                    ASSERT_EQ(veksMulC_Low_32f16s(gx.data(), val, gd.data(), n), VEK_OK);
-                    ASSERT_TRUE(at::sameAll(gd.data(), want));
-                }
-                ASSERT_EQ(fegetround(), round);
-            }
-        }
+        gRound = round;
+        visitMulCFloat([&](const auto& c) { at::check(c, ++seed); });
     }
-    fesetround(saved);
+    gRound = FE_TONEAREST;
+    visitMulCFloat([](const auto& c) { at::contract(c); });
+    // halfway products at the three scale rules: 2.5 -> 2, 3.5 -> 4, 5 * 2^-1 -> 2
+    const float x[4] = {2.5f, 3.5f, -2.5f, 5.0f};
+    T16s d[4];
+    ASSERT_EQ(veksMulC_32f16s_Sfs(x, 1.0f, d, 4, 0), VEK_OK);
+    EXPECT_TRUE(at::sameAll(d, std::vector<T16s>{2, 4, -2, 5}));
+    ASSERT_EQ(veksMulC_32f16s_Sfs(x + 3, 1.0f, d, 1, 1), VEK_OK);
+    EXPECT_EQ(d[0], 2);
 }
 
 TEST(MulCFloatToInt, Int64Form) {

@@ -61,9 +61,8 @@ inline Big negBig(Big a) {
     return a;
 }
 
-// Long multiplication over 32-bit limbs.
-inline Big mulBig(int64_t x, int64_t y) {
-    const Big a = bigOf(x), b = bigOf(y);
+// Long multiplication over 32-bit limbs of magnitudes below 2^64.
+inline Big mulBig(const Big& a, const Big& b) {
     const uint32_t al[2] = {static_cast<uint32_t>(a.lo), static_cast<uint32_t>(a.lo >> 32)};
     const uint32_t bl[2] = {static_cast<uint32_t>(b.lo), static_cast<uint32_t>(b.lo >> 32)};
     uint32_t r[4] = {0, 0, 0, 0};
@@ -82,6 +81,7 @@ inline Big mulBig(int64_t x, int64_t y) {
     p.neg = (p.lo || p.hi) && (a.neg != b.neg);
     return p;
 }
+inline Big mulBig(int64_t x, int64_t y) { return mulBig(bigOf(x), bigOf(y)); }
 
 // Scale rule on a Big, saturated to [lo, hi] (given as Bigs): magnitude
 // divided by 2^sf with the remainder compared to one half, ties to even.
@@ -136,12 +136,11 @@ inline Big scaleBig(Big v, int sf, const Big& lo, const Big& hi) {
     return v;
 }
 
+// The scale rule on an exact value, saturated to the range of T.
 template <class T>
 T scaleWide(const Big& v, int sf) {
-    const bool isSigned = std::numeric_limits<T>::is_signed;
-    const Big lo = isSigned ? bigOf(std::numeric_limits<int64_t>::min()) : Big();
-    const Big hi = isSigned ? bigOf(std::numeric_limits<int64_t>::max()) : bigOfU(~0ull);
-    const Big r = scaleBig(v, sf, lo, hi);
+    using L = std::numeric_limits<T>;
+    const Big r = scaleBig(v, sf, L::is_signed ? bigOf(L::min()) : Big(), bigOfU(static_cast<uint64_t>(L::max())));
     return static_cast<T>(r.neg ? 0ull - r.lo : r.lo);
 }
 
@@ -150,7 +149,7 @@ T scaleWide(const Big& v, int sf) {
 enum class Op { Add, Sub, SubRev, Mul };  // Sub: x2 - x1; SubRev: x1 - x2
 
 template <class T>
-T applyFloat(Op op, T x1, T x2) {
+T apply(Op op, T x1, T x2) {
     switch (op) {
         case Op::Add: return x1 + x2;
         case Op::Sub: return x2 - x1;
@@ -159,20 +158,11 @@ T applyFloat(Op op, T x1, T x2) {
     }
     return 0;
 }
-inline int64_t applyInt(Op op, int64_t x1, int64_t x2) {
+inline Big applyBig(Op op, const Big& x1, const Big& x2) {
     switch (op) {
-        case Op::Add: return x1 + x2;
-        case Op::Sub: return x2 - x1;
-        case Op::SubRev: return x1 - x2;
-        case Op::Mul: return x1 * x2;
-    }
-    return 0;
-}
-inline Big applyBig(Op op, int64_t x1, int64_t x2) {
-    switch (op) {
-        case Op::Add: return addBig(bigOf(x1), bigOf(x2));
-        case Op::Sub: return addBig(bigOf(x2), negBig(bigOf(x1)));
-        case Op::SubRev: return addBig(bigOf(x1), negBig(bigOf(x2)));
+        case Op::Add: return addBig(x1, x2);
+        case Op::Sub: return addBig(x2, negBig(x1));
+        case Op::SubRev: return addBig(x1, negBig(x2));
         case Op::Mul: return mulBig(x1, x2);
     }
     return Big();
