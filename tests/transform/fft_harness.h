@@ -64,6 +64,15 @@ inline long double factor(int flag, bool inverse, int order) {
 
 constexpr int kFlags[] = {VEK_FFT_SCALE_NONE, VEK_FFT_SCALE_FWD, VEK_FFT_SCALE_INV, VEK_FFT_SCALE_SQRT};
 
+// The orders the floating transforms run: every short one, then the first
+// two-level orders of both precisions (17, 18) and the one that adds the
+// extra table (19); every flag up to order 10, one rotating flag above.
+inline std::vector<int> orders() { return {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 16, 17, 18, 19}; }
+inline std::vector<int> flagsFor(int order) {
+    if (order <= 10) return {std::begin(kFlags), std::end(kFlags)};
+    return {kFlags[order % 4]};
+}
+
 // Error bound of a transform of length 2^order: each radix level adds a
 // few roundings of the element precision, so the error grows like
 // eps * log2(N) times the norm it is measured against (||X||_2 for the
