@@ -43,20 +43,18 @@ struct Kind {
     long double eps;
 };
 
-#define API(k) {veksFFTGetSize_##k, veksFFTInit_##k, veksFFTInitAlloc_##k, veksFFTFree_##k, veksFFTGetBufSize_##k}
-const Kind<float, FftSpec_C_32fc> kC32 = {"C_32fc", API(C_32fc),
+const Kind<float, FftSpec_C_32fc> kC32 = {"C_32fc", FFT_API(C_32fc),
     interleaved<float>(veksFFTFwd_CToC_32fc, veksFFTFwd_CToC_32fc_I, veksFFTInv_CToC_32fc, veksFFTInv_CToC_32fc_I),
     false, 5.9604644775390625e-8L};
-const Kind<double, FftSpec_C_64fc> kC64 = {"C_64fc", API(C_64fc),
+const Kind<double, FftSpec_C_64fc> kC64 = {"C_64fc", FFT_API(C_64fc),
     interleaved<double>(veksFFTFwd_CToC_64fc, veksFFTFwd_CToC_64fc_I, veksFFTInv_CToC_64fc, veksFFTInv_CToC_64fc_I),
     false, 1.1102230246251565e-16L};
-const Kind<float, FftSpec_C_32f> kS32 = {"C_32f", API(C_32f),
+const Kind<float, FftSpec_C_32f> kS32 = {"C_32f", FFT_API(C_32f),
     split(veksFFTFwd_CToC_32f, veksFFTFwd_CToC_32f_I, veksFFTInv_CToC_32f, veksFFTInv_CToC_32f_I), true,
     5.9604644775390625e-8L};
-const Kind<double, FftSpec_C_64f> kS64 = {"C_64f", API(C_64f),
+const Kind<double, FftSpec_C_64f> kS64 = {"C_64f", FFT_API(C_64f),
     split(veksFFTFwd_CToC_64f, veksFFTFwd_CToC_64f_I, veksFFTInv_CToC_64f, veksFFTInv_CToC_64f_I), true,
     1.1102230246251565e-16L};
-#undef API
 
 // One input of an order with its reference spectra in both directions. The
 // input is rounded to the element type before the reference is formed, so

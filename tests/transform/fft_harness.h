@@ -31,6 +31,9 @@ struct SpecApi {
     VekResult (*getBufSize)(const Spec*, int*);
 };
 
+// The SpecApi of a kind, e.g. FFT_API(C_32fc).
+#define FFT_API(k) {veksFFTGetSize_##k, veksFFTInit_##k, veksFFTInitAlloc_##k, veksFFTFree_##k, veksFFTGetBufSize_##k}
+
 // A spec laid out in caller memory that starts `skew` bytes past a 64-byte
 // boundary, plus the caller's work buffer (also skewed).
 template <class Spec>
@@ -159,12 +162,6 @@ inline long double l2Error(const std::vector<CLD>& got, const std::vector<CLD>& 
     long double e = 0;
     for (size_t i = 0; i < got.size(); ++i) e += std::norm(got[i] - want[i] * scale);
     return sqrtl(e);
-}
-
-inline long double maxError(const std::vector<CLD>& got, const std::vector<CLD>& want, long double scale) {
-    long double e = 0;
-    for (size_t i = 0; i < got.size(); ++i) e = fmaxl(e, std::abs(got[i] - want[i] * scale));
-    return e;
 }
 
 }  // namespace ft

@@ -103,19 +103,18 @@ void runComplex(const char* name, const ft::SpecApi<Spec>& api, const Call<TI>& 
     }
 }
 
-#define API(k) {veksFFTGetSize_##k, veksFFTInit_##k, veksFFTInitAlloc_##k, veksFFTFree_##k, veksFFTGetBufSize_##k}
 
 TEST(FftInteger, Complex) {
-    runComplex<T32s, FftSpec_C_32sc>("C_32sc", API(C_32sc),
+    runComplex<T32s, FftSpec_C_32sc>("C_32sc", FFT_API(C_32sc),
         interleaved<T32s>(veksFFTFwd_CToC_32sc_Sfs, veksFFTFwd_CToC_32sc_ISfs, veksFFTInv_CToC_32sc_Sfs, veksFFTInv_CToC_32sc_ISfs),
         false, 1 << 20);
-    runComplex<T16s, FftSpec_C_16sc>("C_16sc", API(C_16sc),
+    runComplex<T16s, FftSpec_C_16sc>("C_16sc", FFT_API(C_16sc),
         interleaved<T16s>(veksFFTFwd_CToC_16sc_Sfs, veksFFTFwd_CToC_16sc_ISfs, veksFFTInv_CToC_16sc_Sfs, veksFFTInv_CToC_16sc_ISfs),
         false, 32767);
-    runComplex<T32s, FftSpec_C_32s>("C_32s", API(C_32s),
+    runComplex<T32s, FftSpec_C_32s>("C_32s", FFT_API(C_32s),
         split(veksFFTFwd_CToC_32s_Sfs, veksFFTFwd_CToC_32s_ISfs, veksFFTInv_CToC_32s_Sfs, veksFFTInv_CToC_32s_ISfs), true,
         1 << 24);
-    runComplex<T16s, FftSpec_C_16s>("C_16s", API(C_16s),
+    runComplex<T16s, FftSpec_C_16s>("C_16s", FFT_API(C_16s),
         split(veksFFTFwd_CToC_16s_Sfs, veksFFTFwd_CToC_16s_ISfs, veksFFTInv_CToC_16s_Sfs, veksFFTInv_CToC_16s_ISfs), true,
         32767);
 }
@@ -176,12 +175,12 @@ void runRealInt(const RealIntCase<TI, Spec>& c) {
 }
 
 TEST(FftInteger, Real) {
-    runRealInt(RealIntCase<T32s, FftSpec_R_32s>{"R_32s", API(R_32s),
+    runRealInt(RealIntCase<T32s, FftSpec_R_32s>{"R_32s", FFT_API(R_32s),
         {veksFFTFwd_RToPack_32s_Sfs, veksFFTFwd_RToPerm_32s_Sfs, veksFFTFwd_RToCCS_32s_Sfs},
         {veksFFTFwd_RToPack_32s_ISfs, veksFFTFwd_RToPerm_32s_ISfs, veksFFTFwd_RToCCS_32s_ISfs},
         {veksFFTInv_PackToR_32s_Sfs, veksFFTInv_PermToR_32s_Sfs, veksFFTInv_CCSToR_32s_Sfs},
         {veksFFTInv_PackToR_32s_ISfs, veksFFTInv_PermToR_32s_ISfs, veksFFTInv_CCSToR_32s_ISfs}, 1 << 22});
-    runRealInt(RealIntCase<T16s, FftSpec_R_16s>{"R_16s", API(R_16s),
+    runRealInt(RealIntCase<T16s, FftSpec_R_16s>{"R_16s", FFT_API(R_16s),
         {veksFFTFwd_RToPack_16s_Sfs, veksFFTFwd_RToPerm_16s_Sfs, veksFFTFwd_RToCCS_16s_Sfs},
         {veksFFTFwd_RToPack_16s_ISfs, veksFFTFwd_RToPerm_16s_ISfs, veksFFTFwd_RToCCS_16s_ISfs},
         {veksFFTInv_PackToR_16s_Sfs, veksFFTInv_PermToR_16s_Sfs, veksFFTInv_CCSToR_16s_Sfs},
@@ -198,7 +197,7 @@ TEST(FftInteger, Real16sTo32sAndBack) {
         vt::Rng rng(4300 + order);
         const std::vector<T16s> x = rng.vec<T16s>(N);
         const std::vector<long double> want = ref::pack(ref::dft(std::vector<CLD>(x.begin(), x.end()), false), Layout::CCS);
-        ft::Built<FftSpec_R_16s32s> b(API(R_16s32s), order, VEK_FFT_SCALE_INV);
+        ft::Built<FftSpec_R_16s32s> b(FFT_API(R_16s32s), order, VEK_FFT_SCALE_INV);
         vt::Guarded<T32sc> s(nc, 1);
         ASSERT_EQ(veksFFTFwd_RToCCS_16s32s_Sfs(x.data(), s.data(), b.spec, 0, b.work), VEK_OK);
         EXPECT_TRUE(s.intact());

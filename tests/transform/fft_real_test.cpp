@@ -1,6 +1,6 @@
-// Real transforms in the Pack, Perm and CCS layouts, orders 0 to 20, every
-// flag, in place and out of place, against the long double DFT or FFTW, and
-// round trips where neither reference is at hand.
+// Real transforms in the Pack, Perm and CCS layouts over the shared orders
+// and flags, in place and out of place, against the long double DFT or
+// FFTW, and round trips where neither reference is at hand.
 #include "fft_harness.h"
 
 namespace {
@@ -11,8 +11,8 @@ using ref::Layout;
 template <class T>
 struct RealCase {
     const char* name;
-    ft::SpecApi<typename std::conditional<sizeof(T) == 4, FftSpec_R_32f, FftSpec_R_64f>::type> api;
     using Spec = typename std::conditional<sizeof(T) == 4, FftSpec_R_32f, FftSpec_R_64f>::type;
+    ft::SpecApi<Spec> api;
     using Fn = VekResult (*)(const T*, T*, const Spec*, T8u*);
     using FnI = VekResult (*)(T*, const Spec*, T8u*);
     Fn fwd[3];
@@ -25,7 +25,7 @@ struct RealCase {
 // Layout index order: Pack, Perm, CCS.
 const RealCase<float> kR32 = {
     "R_32f",
-    {veksFFTGetSize_R_32f, veksFFTInit_R_32f, veksFFTInitAlloc_R_32f, veksFFTFree_R_32f, veksFFTGetBufSize_R_32f},
+    FFT_API(R_32f),
     {veksFFTFwd_RToPack_32f, veksFFTFwd_RToPerm_32f, veksFFTFwd_RToCCS_32f},
     {veksFFTFwd_RToPack_32f_I, veksFFTFwd_RToPerm_32f_I, veksFFTFwd_RToCCS_32f_I},
     {veksFFTInv_PackToR_32f, veksFFTInv_PermToR_32f, veksFFTInv_CCSToR_32f},
@@ -33,7 +33,7 @@ const RealCase<float> kR32 = {
     5.9604644775390625e-8L};
 const RealCase<double> kR64 = {
     "R_64f",
-    {veksFFTGetSize_R_64f, veksFFTInit_R_64f, veksFFTInitAlloc_R_64f, veksFFTFree_R_64f, veksFFTGetBufSize_R_64f},
+    FFT_API(R_64f),
     {veksFFTFwd_RToPack_64f, veksFFTFwd_RToPerm_64f, veksFFTFwd_RToCCS_64f},
     {veksFFTFwd_RToPack_64f_I, veksFFTFwd_RToPerm_64f_I, veksFFTFwd_RToCCS_64f_I},
     {veksFFTInv_PackToR_64f, veksFFTInv_PermToR_64f, veksFFTInv_CCSToR_64f},
