@@ -28,31 +28,28 @@ std::vector<Cx<T>> twiddles(int order) {
     return tw;
 }
 
+template <class P, class T>
+void passes(bool inv, const Cx<T>* x, Cx<T>* y, Cx<T>* scratch, int order, size_t lanes, const Cx<T>* tw) {
+    if (inv)
+        veks::fft::runPasses<P, true>(x, y, scratch, order, lanes, tw);
+    else
+        veks::fft::runPasses<P, false>(x, y, scratch, order, lanes, tw);
+}
+
 template <class T, class P>
 void passesMatchScalar(uint64_t seed) {
+    using S = veks::fft::ScalarPolicy<T>;
     for (int order = 4; order <= 12; ++order) {
+        const std::vector<Cx<T>> tw = twiddles<T>(order);
         for (size_t lanes : {size_t(1), size_t(8)}) {
+            const size_t n = lanes << order;
+            const std::vector<Cx<T>> x = randomData<T>(n, seed + order);
             for (int inv = 0; inv < 2; ++inv) {
-                const size_t n = lanes << order;
-                const std::vector<Cx<T>> x = randomData<T>(n, seed + order);
-                const std::vector<Cx<T>> tw = twiddles<T>(order);
-                std::vector<Cx<T>> a(n), b(n), s1(n), s2(n);
-                if (inv) {
-                    veks::fft::runPasses<P, true>(x.data(), a.data(), s1.data(), order, lanes, tw.data());
-                    veks::fft::runPasses<veks::fft::ScalarPolicy<T>, true>(x.data(), b.data(), s2.data(), order, lanes,
-                                                                        tw.data());
-                } else {
-                    veks::fft::runPasses<P, false>(x.data(), a.data(), s1.data(), order, lanes, tw.data());
-                    veks::fft::runPasses<veks::fft::ScalarPolicy<T>, false>(x.data(), b.data(), s2.data(), order,
-                                                                         lanes, tw.data());
-                }
+                std::vector<Cx<T>> a(n), b(n), c(x), s1(n), s2(n);
+                passes<P>(inv, x.data(), a.data(), s1.data(), order, lanes, tw.data());
+                passes<S>(inv, x.data(), b.data(), s2.data(), order, lanes, tw.data());
+                passes<P>(inv, c.data(), c.data(), s1.data(), order, lanes, tw.data());  // in place
                 ASSERT_EQ(memcmp(a.data(), b.data(), n * sizeof(Cx<T>)), 0) << "order " << order << " lanes " << lanes;
-                // in place through the same passes
-                std::vector<Cx<T>> c(x);
-                if (inv)
-                    veks::fft::runPasses<P, true>(c.data(), c.data(), s1.data(), order, lanes, tw.data());
-                else
-                    veks::fft::runPasses<P, false>(c.data(), c.data(), s1.data(), order, lanes, tw.data());
                 ASSERT_EQ(memcmp(c.data(), b.data(), n * sizeof(Cx<T>)), 0) << "in place, order " << order;
             }
         }
@@ -70,13 +67,15 @@ void splitPassMatchesScalar() {
         const std::vector<Cx<T>> z = randomData<T>(m, 50 + m), A = randomData<T>(m, 60 + m);
         for (int inv = 0; inv < 2; ++inv) {
             std::vector<Cx<T>> a(z), b(z);
-            if (inv) {
-                veks::fft::realSplit<P, true>(a.data(), m, A.data() + 1, 1, m / 2 + 1);
-                veks::fft::realSplit<veks::fft::ScalarPolicy<T>, true>(b.data(), m, A.data() + 1, 1, m / 2 + 1);
-            } else {
-                veks::fft::realSplit<P, false>(a.data(), m, A.data() + 1, 1, m / 2 + 1);
-                veks::fft::realSplit<veks::fft::ScalarPolicy<T>, false>(b.data(), m, A.data() + 1, 1, m / 2 + 1);
-            }
+            auto run = [&](auto policy, Cx<T>* d) {
+                using Q = decltype(policy);
+                if (inv)
+                    veks::fft::realSplit<Q, true>(d, m, A.data() + 1, 1, m / 2 + 1);
+                else
+                    veks::fft::realSplit<Q, false>(d, m, A.data() + 1, 1, m / 2 + 1);
+            };
+            run(P{}, a.data());
+            run(veks::fft::ScalarPolicy<T>{}, b.data());
             ASSERT_EQ(memcmp(a.data(), b.data(), m * sizeof(Cx<T>)), 0) << "m " << m << " inv " << inv;
         }
     }

@@ -31,6 +31,9 @@ struct SpecApi {
     VekResult (*getBufSize)(const Spec*, int*);
 };
 
+// The SpecApi of a kind, e.g. FFT_API(C_32fc).
+#define FFT_API(k) {veksFFTGetSize_##k, veksFFTInit_##k, veksFFTInitAlloc_##k, veksFFTFree_##k, veksFFTGetBufSize_##k}
+
 // A spec laid out in caller memory that starts `skew` bytes past a 64-byte
 // boundary, plus the caller's work buffer (also skewed).
 template <class Spec>
@@ -64,6 +67,20 @@ inline long double factor(int flag, bool inverse, int order) {
 
 constexpr int kFlags[] = {VEK_FFT_SCALE_NONE, VEK_FFT_SCALE_FWD, VEK_FFT_SCALE_INV, VEK_FFT_SCALE_SQRT};
 
+// The orders the floating transforms run: the short ones, the first
+// two-level orders of both precisions (17, 18) and the one that adds the
+// extra table (19); every flag at the short orders, one rotating flag
+// above. The 32-bit build runs emulated here, so it takes fewer orders and
+// flags (order 18 is two-level in both precisions; the code is the same).
+inline std::vector<int> orders() {
+    if (sizeof(void*) == 4) return {0, 1, 2, 3, 4, 5, 6, 7, 8, 11, 18};
+    return {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 16, 17, 18, 19};
+}
+inline std::vector<int> flagsFor(int order) {
+    if (order <= (sizeof(void*) == 4 ? 5 : 10)) return {std::begin(kFlags), std::end(kFlags)};
+    return {kFlags[order % 4]};
+}
+
 // Error bound of a transform of length 2^order: each radix level adds a
 // few roundings of the element precision, so the error grows like
 // eps * log2(N) times the norm it is measured against (||X||_2 for the
@@ -93,16 +110,34 @@ inline Tones makeTones(vt::Rng& rng, size_t N, int count) {
     }
     return t;
 }
+// e^(2 pi i j / N) for every j, from the first octant by symmetry (few
+// long double sines: they are slow where the tests run emulated).
+inline std::vector<CLD> unitRoots(size_t N) {
+    const long double pi = 3.141592653589793238462643383279502884L;
+    std::vector<CLD> w(N);
+    for (size_t j = 0; j <= N / 8 || (N < 8 && j < N); ++j) {
+        const long double a = 2 * pi * static_cast<long double>(j) / static_cast<long double>(N);
+        const long double c = cosl(a), s = sinl(a);
+        if (N < 8) {
+            w[j] = CLD(c, s);
+            continue;
+        }
+        const size_t q = N / 4;
+        w[j] = CLD(c, s), w[q - j] = CLD(s, c), w[q + j] = CLD(-s, c), w[2 * q - j] = CLD(-c, s);
+        w[2 * q + j] = CLD(-c, -s), w[3 * q - j] = CLD(-s, -c), w[(3 * q + j) % N] = CLD(s, -c), w[(N - j) % N] = CLD(c, -s);
+    }
+    return w;
+}
+
 inline std::vector<CLD> toneSignal(const Tones& t, size_t N, bool inverse) {
     // the signal whose transform in the given direction is N a_j at f_j
-    const long double pi = 3.141592653589793238462643383279502884L;
+    const std::vector<CLD> w = unitRoots(N);
     std::vector<CLD> x(N);
-    for (size_t j = 0; j < t.f.size(); ++j) {
+    for (size_t j = 0; j < t.f.size(); ++j)
         for (size_t n = 0; n < N; ++n) {
-            const long double ang = 2 * pi * static_cast<long double>((t.f[j] * n) % N) / static_cast<long double>(N);
-            x[n] += t.a[j] * CLD(cosl(ang), (inverse ? -1 : 1) * sinl(ang));
+            const CLD r = w[(t.f[j] * n) % N];
+            x[n] += t.a[j] * (inverse ? std::conj(r) : r);
         }
-    }
     return x;
 }
 inline std::vector<CLD> toneSpectrum(const Tones& t, size_t N) {
@@ -150,12 +185,6 @@ inline long double l2Error(const std::vector<CLD>& got, const std::vector<CLD>& 
     long double e = 0;
     for (size_t i = 0; i < got.size(); ++i) e += std::norm(got[i] - want[i] * scale);
     return sqrtl(e);
-}
-
-inline long double maxError(const std::vector<CLD>& got, const std::vector<CLD>& want, long double scale) {
-    long double e = 0;
-    for (size_t i = 0; i < got.size(); ++i) e = fmaxl(e, std::abs(got[i] - want[i] * scale));
-    return e;
 }
 
 }  // namespace ft

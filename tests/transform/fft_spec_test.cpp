@@ -7,43 +7,30 @@
 
 namespace {
 
-template <class Spec>
-ft::SpecApi<Spec> api(VekResult (*g)(int, int, int, int*, int*, int*), VekResult (*i)(Spec**, int, int, int, T8u*, T8u*),
-                      VekResult (*a)(Spec**, int, int, int), VekResult (*f)(Spec*), VekResult (*b)(const Spec*, int*)) {
-    return {g, i, a, f, b};
-}
+using GetSize = VekResult (*)(int, int, int, int*, int*, int*);
 
-const auto kC32 = api<FftSpec_C_32fc>(veksFFTGetSize_C_32fc, veksFFTInit_C_32fc, veksFFTInitAlloc_C_32fc,
-                                      veksFFTFree_C_32fc, veksFFTGetBufSize_C_32fc);
-const auto kR32 = api<FftSpec_R_32f>(veksFFTGetSize_R_32f, veksFFTInit_R_32f, veksFFTInitAlloc_R_32f,
-                                     veksFFTFree_R_32f, veksFFTGetBufSize_R_32f);
-const auto kC64 = api<FftSpec_C_64fc>(veksFFTGetSize_C_64fc, veksFFTInit_C_64fc, veksFFTInitAlloc_C_64fc,
-                                      veksFFTFree_C_64fc, veksFFTGetBufSize_C_64fc);
-
-ref::Sizes query(VekResult (*g)(int, int, int, int*, int*, int*), int order, int flag = VEK_FFT_SCALE_NONE) {
+ref::Sizes query(GetSize g, int order, int flag = VEK_FFT_SCALE_NONE) {
     int s = -1, i = -1, w = -1;
     EXPECT_EQ(g(order, flag, 0, &s, &i, &w), VEK_OK) << order;
     return {s, i, w};
 }
 
-void expectSizes(const ref::Sizes& got, const ref::Sizes& want, const char* what, int order) {
-    EXPECT_EQ(got.spec, want.spec) << what << " spec, order " << order;
-    EXPECT_EQ(got.init, want.init) << what << " init, order " << order;
-    EXPECT_EQ(got.work, want.work) << what << " work, order " << order;
-}
-
 TEST(FftSpec, SizeFormulasOfTheOrdinaryOrders) {
-    for (int order = 0; order <= 17; ++order) {
-        for (int flag : ft::kFlags) {
-            expectSizes(query(veksFFTGetSize_C_32fc, order, flag), ref::complex32f(order), "C_32fc", order);
-            expectSizes(query(veksFFTGetSize_C_32f, order, flag), ref::complex32f(order), "C_32f", order);
+    struct Row {
+        GetSize g;
+        ref::Sizes (*want)(int);
+        int maxOrder;
+    };
+    const Row rows[] = {{veksFFTGetSize_C_32fc, ref::complex32f, 17}, {veksFFTGetSize_C_32f, ref::complex32f, 17},
+                        {veksFFTGetSize_C_64fc, ref::complex64f, 16}, {veksFFTGetSize_C_64f, ref::complex64f, 16},
+                        {veksFFTGetSize_R_32f, ref::real32f, 18}};
+    for (size_t r = 0; r < 5; ++r) {
+        for (int order = 0; order <= rows[r].maxOrder; ++order) {
+            const ref::Sizes want = rows[r].want(order), got = query(rows[r].g, order, ft::kFlags[order % 4]);
+            EXPECT_TRUE(got.spec == want.spec && got.init == want.init && got.work == want.work)
+                << "row " << r << " order " << order << ": " << got.spec << " " << got.init << " " << got.work;
         }
     }
-    for (int order = 0; order <= 16; ++order) {
-        expectSizes(query(veksFFTGetSize_C_64fc, order), ref::complex64f(order), "C_64fc", order);
-        expectSizes(query(veksFFTGetSize_C_64f, order), ref::complex64f(order), "C_64f", order);
-    }
-    for (int m = 0; m <= 18; ++m) expectSizes(query(veksFFTGetSize_R_32f, m), ref::real32f(m), "R_32f", m);
 }
 
 TEST(FftSpec, TwoLevelOrdersCarryTheirExtraTables) {
@@ -70,8 +57,7 @@ TEST(FftSpec, TwoLevelOrdersCarryTheirExtraTables) {
 // non-zero init size, +16N + 64 work bytes; C_32s and C_32sc are one function.
 TEST(FftSpec, WrappedKindsAddTheirOwnShare) {
     struct Row {
-        VekResult (*wrap)(int, int, int, int*, int*, int*);
-        VekResult (*inner)(int, int, int, int*, int*, int*);
+        GetSize wrap, inner;
         int64_t perElement;
         int maxOrder;
     };
@@ -97,7 +83,7 @@ TEST(FftSpec, WrappedKindsAddTheirOwnShare) {
 // pointers, then the flag, then the type's maximum.
 TEST(FftSpec, SizeQueryChecksInOrder) {
     struct Case {
-        VekResult (*fn)(int, int, int, int*, int*, int*);
+        GetSize fn;
         int order, flag;
         bool nullPtr;
         VekResult want;
@@ -259,21 +245,17 @@ TEST(FftSpec, QuarterWaveTableInTheInitBuffer) {
 // Init writes only inside the size it asked for, from any start, and reads
 // the init buffer only inside its size.
 TEST(FftSpec, InitStaysInsideItsSizes) {
+    using InitFn = VekResult (*)(void**, int, int, int, T8u*, T8u*);
     struct Row {
         const char* name;
-        VekResult (*g)(int, int, int, int*, int*, int*);
-        VekResult (*init)(void**, int, int, int, T8u*, T8u*);
+        GetSize g;
+        InitFn init;
         int maxOrder;
     };
-    const Row rows[] = {
-        {"C_32fc", veksFFTGetSize_C_32fc, reinterpret_cast<VekResult (*)(void**, int, int, int, T8u*, T8u*)>(veksFFTInit_C_32fc), 22},
-        {"C_32f", veksFFTGetSize_C_32f, reinterpret_cast<VekResult (*)(void**, int, int, int, T8u*, T8u*)>(veksFFTInit_C_32f), 19},
-        {"R_32f", veksFFTGetSize_R_32f, reinterpret_cast<VekResult (*)(void**, int, int, int, T8u*, T8u*)>(veksFFTInit_R_32f), 22},
-        {"C_64fc", veksFFTGetSize_C_64fc, reinterpret_cast<VekResult (*)(void**, int, int, int, T8u*, T8u*)>(veksFFTInit_C_64fc), 21},
-        {"R_64f", veksFFTGetSize_R_64f, reinterpret_cast<VekResult (*)(void**, int, int, int, T8u*, T8u*)>(veksFFTInit_R_64f), 21},
-        {"C_32sc", veksFFTGetSize_C_32sc, reinterpret_cast<VekResult (*)(void**, int, int, int, T8u*, T8u*)>(veksFFTInit_C_32sc), 18},
-        {"R_16s", veksFFTGetSize_R_16s, reinterpret_cast<VekResult (*)(void**, int, int, int, T8u*, T8u*)>(veksFFTInit_R_16s), 18},
-    };
+#define ROW(k, m) {#k, veksFFTGetSize_##k, reinterpret_cast<InitFn>(veksFFTInit_##k), m}
+    const Row rows[] = {ROW(C_32fc, 22), ROW(C_32f, 19), ROW(R_32f, 22), ROW(C_64fc, 21),
+                        ROW(R_64f, 21), ROW(C_32sc, 18), ROW(R_16s, 18)};
+#undef ROW
     for (const Row& r : rows) {
         for (int order = 0; order <= r.maxOrder; ++order) {
             const ref::Sizes sz = query(r.g, order);
