@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "core_spy.h"
+#include "support/core_spy.h"
 #include "support/support.h"
 #include "vekcore.h"
 

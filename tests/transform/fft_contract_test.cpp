@@ -4,7 +4,7 @@
 // allocation fails nothing is written.
 #include <functional>
 
-#include "core_spy.h"
+#include "support/core_spy.h"
 #include "fft_harness.h"
 
 namespace {

@@ -2,7 +2,7 @@
 // the bit-reversal table, ownership and the work-buffer size rule.
 #include <stdint.h>
 
-#include "core_spy.h"
+#include "support/core_spy.h"
 #include "fft_harness.h"
 
 namespace {

@@ -1,7 +1,7 @@
-// A stand-in for the core's allocator in the frame tests: the executable
+// A stand-in for the core's allocator in the tests that link it: the executable
 // exports vekMalloc and vekFree, so the library's calls reach these first.
 // They record what was asked and forward to the real core.
-#include "core_spy.h"
+#include "support/core_spy.h"
 
 #include <dlfcn.h>
 
@@ -38,4 +38,20 @@ extern "C" __attribute__((visibility("default"))) void* vekMalloc(size_t length)
 extern "C" __attribute__((visibility("default"))) void vekFree(void* ptr) {
     CoreSpy::get().freed.push_back(ptr);
     realFree()(ptr);
+}
+
+extern "C" __attribute__((visibility("default"))) int ownGetFeature(unsigned long long mask) {
+    CoreSpy& s = CoreSpy::get();
+    s.featureMasks.push_back(mask);
+    if (s.featureAnswer >= 0) return s.featureAnswer;
+    using Fn = int (*)(unsigned long long);
+    static Fn real = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "ownGetFeature"));
+    return real(mask);
+}
+
+extern "C" __attribute__((visibility("default"))) unsigned long long vekGetEnabledCpuFeatures(void) {
+    ++CoreSpy::get().enabledFeatureCalls;
+    using Fn = unsigned long long (*)(void);
+    static Fn real = reinterpret_cast<Fn>(dlsym(RTLD_NEXT, "vekGetEnabledCpuFeatures"));
+    return real();
 }
