@@ -30,7 +30,7 @@ std::vector<Cx<T>> twiddles(int order) {
 
 template <class T, class P>
 void passesMatchScalar(uint64_t seed) {
-    for (int order = 4; order <= 12; ++order) {
+    for (int order = 4; order <= 13; ++order) {
         for (size_t lanes : {size_t(1), size_t(8)}) {
             for (int inv = 0; inv < 2; ++inv) {
                 const size_t n = lanes << order;
