@@ -37,21 +37,16 @@ struct SplitPtr {
 
 // The passes of an order, as the base-2 logarithms of their radices:
 // radix-8 passes, then what is left: nothing, one radix-4 pass, or (for
-// orders 3k+1) a closing radix-16 pass in place of a radix-8 and a radix-2;
-// that pass has m = 1 and needs no twiddles. Order 4 keeps two radix-4
-// passes (a lone radix-16 pass would leave the vector first pass without p
-// to fill its lanes) and order 1 alone is one radix-2 pass.
+// orders 3k+1) two radix-4 passes in place of a radix-8 and a radix-2
+// (order 1 alone is one radix-2 pass).
 constexpr int passCount(int order) {
     if (order <= 2) return order == 0 ? 0 : 1;
     const int r = order % 3;
-    if (r == 1 && order >= 7) return order / 3;
     return order / 3 + (r == 0 ? 0 : 1);
 }
 constexpr int passRadixLog(int order, int i) {
     if (order <= 2) return order;
-    const int r = order % 3;
-    if (r == 1 && order >= 7) return i < order / 3 - 1 ? 3 : 4;
-    const int eights = order / 3 - (r == 1 ? 1 : 0);
+    const int r = order % 3, eights = order / 3 - (r == 1 ? 1 : 0);
     return i < eights ? 3 : 2;
 }
 

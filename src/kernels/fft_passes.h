@@ -439,47 +439,32 @@ void pass8(In x, typename P::Buf y, size_t m, size_t s, const Cx<typename P::T>*
     }
 }
 
-// The 16-point DFT of a0..a15 as four 4-point transforms of the inputs
-// a[n2 + 4*n1], joined by w16^(n2*k1) and four more 4-point transforms:
-// y[k1 + 4*k2]. w16^2 and w16^6 are the radix-8 rotations; w16^4 is rot;
-// w16^1, w16^3 and w16^9 = -w16^1 are constant complex products.
-template <class P, bool Inv>
-inline void dft16(const typename P::V* a, typename P::V* y) {
-    using V = typename P::V;
-    using T = typename P::T;
-    const T c8 = static_cast<T>(0.70710678118654752440);
-    const T c16 = static_cast<T>(0.92387953251128675613), s16 = static_cast<T>(0.38268343236508977173);
-    const Cx<T> w1{c16, -s16}, w3{s16, -c16}, w9{-c16, s16};
-    const typename P::Tw t1 = P::template twBroadcast<Inv>(&w1), t3 = P::template twBroadcast<Inv>(&w3),
-                         t9 = P::template twBroadcast<Inv>(&w9);
+// The closing radix-4 pass (m = 1, s >= W sub-sequences): no twiddles, a
+// loop of its own for the same reason as pass8Last below.
+template <class P, bool Inv, class In>
+void pass4Last(In x, typename P::Buf y, size_t s) {
     const typename P::Tw one{};
-    V b[4][4];
-    for (int n2 = 0; n2 < 4; ++n2)
-        butterfly4<P, Inv, false>(a[n2], a[n2 + 4], a[n2 + 8], a[n2 + 12], one, one, one, b[n2][0], b[n2][1],
-                                  b[n2][2], b[n2][3]);
-    auto w8 = [c8](V v) { return P::scale(P::add(v, P::template rot<Inv>(v)), c8); };
-    b[1][1] = P::mul(b[1][1], t1);
-    b[1][2] = w8(b[1][2]);
-    b[1][3] = P::mul(b[1][3], t3);
-    b[2][1] = w8(b[2][1]);
-    b[2][2] = P::template rot<Inv>(b[2][2]);
-    b[2][3] = P::template rot<Inv>(w8(b[2][3]));
-    b[3][1] = P::mul(b[3][1], t3);
-    b[3][2] = P::template rot<Inv>(w8(b[3][2]));
-    b[3][3] = P::mul(b[3][3], t9);
-    for (int k1 = 0; k1 < 4; ++k1)
-        butterfly4<P, Inv, false>(b[0][k1], b[1][k1], b[2][k1], b[3][k1], one, one, one, y[k1], y[k1 + 4],
-                                  y[k1 + 8], y[k1 + 12]);
+    for (size_t q = 0; q < s; q += P::W) {
+        typename P::V y0, y1, y2, y3;
+        butterfly4<P, Inv, false>(P::load(x, q), P::load(x, q + s), P::load(x, q + 2 * s), P::load(x, q + 3 * s), one,
+                                  one, one, y0, y1, y2, y3);
+        P::store(y, q, y0);
+        P::store(y, q + s, y1);
+        P::store(y, q + 2 * s, y2);
+        P::store(y, q + 3 * s, y3);
+    }
 }
 
-// The closing radix-16 pass (m = 1, s >= W sub-sequences): no twiddles.
+// The closing radix-8 pass (m = 1, s >= W sub-sequences): no twiddles. A
+// loop of its own, because pass8's set-up for the twiddled p costs more than
+// this whole pass at the short orders.
 template <class P, bool Inv, class In>
-void pass16Last(In x, typename P::Buf y, size_t s) {
-    typename P::V a[16], v[16];
+void pass8Last(In x, typename P::Buf y, size_t s) {
+    typename P::V a[8], v[8];
     for (size_t q = 0; q < s; q += P::W) {
-        for (size_t j = 0; j < 16; ++j) a[j] = P::load(x, q + j * s);
-        dft16<P, Inv>(a, v);
-        for (size_t k = 0; k < 16; ++k) P::store(y, q + k * s, v[k]);
+        for (size_t j = 0; j < 8; ++j) a[j] = P::load(x, q + j * s);
+        dft8<P, Inv>(a, v);
+        for (size_t k = 0; k < 8; ++k) P::store(y, q + k * s, v[k]);
     }
 }
 
@@ -512,6 +497,9 @@ void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratc
             if (s < P::W) {
                 if (fromSrc) pass8First<P, Inv>(src, out, m, twAt);
                 else pass8First<P, Inv>(in, out, m, twAt);
+            } else if (m == 1) {
+                if (fromSrc) pass8Last<P, Inv>(src, out, s);
+                else pass8Last<P, Inv>(in, out, s);
             } else {
                 if (fromSrc) pass8<P, Inv>(src, out, m, s, twAt);
                 else pass8<P, Inv>(in, out, m, s, twAt);
@@ -521,14 +509,14 @@ void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratc
             if (s < P::W) {
                 if (fromSrc) pass4First<P, Inv>(src, out, m, twAt);
                 else pass4First<P, Inv>(in, out, m, twAt);
+            } else if (m == 1) {
+                if (fromSrc) pass4Last<P, Inv>(src, out, s);
+                else pass4Last<P, Inv>(in, out, s);
             } else {
                 if (fromSrc) pass4<P, Inv>(src, out, m, s, twAt);
                 else pass4<P, Inv>(in, out, m, s, twAt);
             }
             if (m >= 2) twAt += 12 * ((m + 3) / 4);
-        } else if (rl == 4) {
-            if (fromSrc) pass16Last<P, Inv>(src, out, s);
-            else pass16Last<P, Inv>(in, out, s);
         } else {
             if (fromSrc) pass2<P>(src, out, s);
             else pass2<P>(in, out, s);
