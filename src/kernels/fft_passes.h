@@ -375,7 +375,7 @@ void pass2(In x, typename P::Buf y, size_t s) {
 
 // The 8-point DFT of a0..a7: two 4-point transforms of the even and odd
 // inputs joined by w8^k, where w8 z = (z + rot z) / sqrt(2), w8^2 z = rot z
-// and w8^3 z = rot(w8 z).
+// and w8^3 z = rot(w8 z) = (rot z - z) / sqrt(2).
 template <class P, bool Inv>
 inline void dft8(const typename P::V* a, typename P::V* y) {
     using V = typename P::V;
@@ -386,7 +386,7 @@ inline void dft8(const typename P::V* a, typename P::V* y) {
     butterfly4<P, Inv, false>(a[1], a[3], a[5], a[7], one, one, one, o0, o1, o2, o3);
     const V t1 = P::scale(P::add(o1, P::template rot<Inv>(o1)), c);
     const V t2 = P::template rot<Inv>(o2);
-    const V t3 = P::template rot<Inv>(P::scale(P::add(o3, P::template rot<Inv>(o3)), c));
+    const V t3 = P::scale(P::sub(P::template rot<Inv>(o3), o3), c);
     y[0] = P::add(e0, o0);
     y[4] = P::sub(e0, o0);
     y[1] = P::add(e1, t1);
