@@ -375,7 +375,7 @@ void pass2(In x, typename P::Buf y, size_t s) {
 
 // The 8-point DFT of a0..a7: two 4-point transforms of the even and odd
 // inputs joined by w8^k, where w8 z = (z + rot z) / sqrt(2), w8^2 z = rot z
-// and w8^3 z = rot(w8 z).
+// and w8^3 z = rot(w8 z) = (rot z - z) / sqrt(2).
 template <class P, bool Inv>
 inline void dft8(const typename P::V* a, typename P::V* y) {
     using V = typename P::V;
@@ -386,7 +386,7 @@ inline void dft8(const typename P::V* a, typename P::V* y) {
     butterfly4<P, Inv, false>(a[1], a[3], a[5], a[7], one, one, one, o0, o1, o2, o3);
     const V t1 = P::scale(P::add(o1, P::template rot<Inv>(o1)), c);
     const V t2 = P::template rot<Inv>(o2);
-    const V t3 = P::template rot<Inv>(P::scale(P::add(o3, P::template rot<Inv>(o3)), c));
+    const V t3 = P::scale(P::sub(P::template rot<Inv>(o3), o3), c);
     y[0] = P::add(e0, o0);
     y[4] = P::sub(e0, o0);
     y[1] = P::add(e1, t1);
@@ -439,6 +439,35 @@ void pass8(In x, typename P::Buf y, size_t m, size_t s, const Cx<typename P::T>*
     }
 }
 
+// The closing radix-4 pass (m = 1, s >= W sub-sequences): no twiddles, a
+// loop of its own for the same reason as pass8Last below.
+template <class P, bool Inv, class In>
+void pass4Last(In x, typename P::Buf y, size_t s) {
+    const typename P::Tw one{};
+    for (size_t q = 0; q < s; q += P::W) {
+        typename P::V y0, y1, y2, y3;
+        butterfly4<P, Inv, false>(P::load(x, q), P::load(x, q + s), P::load(x, q + 2 * s), P::load(x, q + 3 * s), one,
+                                  one, one, y0, y1, y2, y3);
+        P::store(y, q, y0);
+        P::store(y, q + s, y1);
+        P::store(y, q + 2 * s, y2);
+        P::store(y, q + 3 * s, y3);
+    }
+}
+
+// The closing radix-8 pass (m = 1, s >= W sub-sequences): no twiddles. A
+// loop of its own, because pass8's set-up for the twiddled p costs more than
+// this whole pass at the short orders.
+template <class P, bool Inv, class In>
+void pass8Last(In x, typename P::Buf y, size_t s) {
+    typename P::V a[8], v[8];
+    for (size_t q = 0; q < s; q += P::W) {
+        for (size_t j = 0; j < 8; ++j) a[j] = P::load(x, q + j * s);
+        dft8<P, Inv>(a, v);
+        for (size_t k = 0; k < 8; ++k) P::store(y, q + k * s, v[k]);
+    }
+}
+
 // All passes of one order (passCount / passRadixLog in fft_kernel.h); see
 // stockham() there for the buffers.
 template <class P, bool Inv>
@@ -468,6 +497,9 @@ void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratc
             if (s < P::W) {
                 if (fromSrc) pass8First<P, Inv>(src, out, m, twAt);
                 else pass8First<P, Inv>(in, out, m, twAt);
+            } else if (m == 1) {
+                if (fromSrc) pass8Last<P, Inv>(src, out, s);
+                else pass8Last<P, Inv>(in, out, s);
             } else {
                 if (fromSrc) pass8<P, Inv>(src, out, m, s, twAt);
                 else pass8<P, Inv>(in, out, m, s, twAt);
@@ -477,6 +509,9 @@ void runPasses(typename P::CBuf src, typename P::Buf dst, typename P::Buf scratc
             if (s < P::W) {
                 if (fromSrc) pass4First<P, Inv>(src, out, m, twAt);
                 else pass4First<P, Inv>(in, out, m, twAt);
+            } else if (m == 1) {
+                if (fromSrc) pass4Last<P, Inv>(src, out, s);
+                else pass4Last<P, Inv>(in, out, s);
             } else {
                 if (fromSrc) pass4<P, Inv>(src, out, m, s, twAt);
                 else pass4<P, Inv>(in, out, m, s, twAt);

@@ -39,7 +39,7 @@ void passes(bool inv, const Cx<T>* x, Cx<T>* y, Cx<T>* scratch, int order, size_
 template <class T, class P>
 void passesMatchScalar(uint64_t seed) {
     using S = veks::fft::ScalarPolicy<T>;
-    for (int order = 4; order <= 12; ++order) {
+    for (int order = 4; order <= 13; ++order) {
         const std::vector<Cx<T>> tw = twiddles<T>(order);
         for (size_t lanes : {size_t(1), size_t(8)}) {
             const size_t n = lanes << order;
