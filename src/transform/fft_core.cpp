@@ -6,7 +6,7 @@
 // 1. every column is transformed into row n1 of the destination (columns are
 //    gathered a block at a time, or, in place, the whole array is first
 //    transposed so that the columns become rows);
-// 2. row n1 is multiplied by w_N^(n1*k2) (the spec's half-circle table);
+// 2. row n1 is multiplied by w_N^(n1*k2) (the FFT spec's half-circle table);
 // 3. N1-point transforms run down the columns, a block of columns at a time,
 //    and land exactly where the natural order wants them.
 #include "transform/fft_exec.h"

@@ -1,5 +1,5 @@
 // What every transform export shares: the work buffer rule and the
-// unscaled complex engine over the spec's tables (short routines, one
+// unscaled complex engine over the FFT spec's tables (short routines, one
 // radix kernel, or the two-level decomposition), instantiated once per
 // precision in fft_core.cpp.
 #pragma once

@@ -1,5 +1,5 @@
 // The FFT spec block: identifiers, the 88-byte header, the size rules and
-// where each table sits. One home for the layout; the spec and transform
+// where each table sits. One home for the layout; the FFT spec and transform
 // sources read it from here.
 //
 // A floating-point spec starts at the first 64-byte boundary of the caller's

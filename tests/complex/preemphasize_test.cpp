@@ -36,7 +36,9 @@ void checkPreemphasize(VekResult (*f)(const T*, T*, int, T32f, T*), VekResult (*
                 ASSERT_TRUE(vt::sameElements(dst.data(), (ms ? wantNoMem : want).data(), n)) << val << " len=" << len;
                 const int first = (len + 1) / 2;
                 ASSERT_EQ(fI(ip.data(), first, val, &memI), VEK_OK);
-                if (len > first) ASSERT_EQ(fI(ip.data() + first, len - first, val, &memI), VEK_OK);
+                if (len > first) {
+                    ASSERT_EQ(fI(ip.data() + first, len - first, val, &memI), VEK_OK);
+                }
                 ASSERT_TRUE(vt::sameElements(ip.data(), want.data(), n)) << val << " len=" << len;
                 ASSERT_TRUE(memI == x.back() && (ms || mem == x.back()));
                 ASSERT_TRUE(dst.intact() && ip.intact() && src.intact());

@@ -1,6 +1,6 @@
 // Reference models of the power-of-two transforms: a direct DFT in long
 // double, the packed real layouts built from a full spectrum, and the size
-// rules of the spec blocks, all written from the rules and independent of
+// rules of the FFT spec blocks, all written from the rules and independent of
 // the library's sources.
 #pragma once
 
@@ -71,7 +71,7 @@ inline std::vector<CLD> unpack(const std::vector<long double>& p, size_t N, Layo
     return X;
 }
 
-// ---- size rules of the spec blocks ---------------------------------------------
+// ---- size rules of the FFT spec blocks ---------------------------------------------
 
 struct Sizes {
     int64_t spec, init, work;

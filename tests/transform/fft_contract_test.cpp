@@ -1,4 +1,4 @@
-// The common frame of every transform, one table row per export: the spec
+// The common frame of every transform, one table row per export: the FFT spec
 // is checked first (null, then identifier), then the data pointers; a
 // missing work buffer is allocated for the call and released, and when that
 // allocation fails nothing is written.

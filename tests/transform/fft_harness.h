@@ -47,7 +47,7 @@ struct Built {
         EXPECT_EQ(api.getSize(order, flag, 0, &specSize, &initSize, &bufSize), VEK_OK);
         mem.assign(static_cast<size_t>(specSize) + 64, 0);
         uint8_t* m = mem.data() + ((64 - reinterpret_cast<uintptr_t>(mem.data()) % 64) % 64) + skew;
-        // the 64 extra bytes above absorb the skew; the spec must fit from the aligned address on
+        // the 64 extra bytes above absorb the skew; the FFT spec must fit from the aligned address on
         initBuf.assign(static_cast<size_t>(initSize) + 1, 0);
         EXPECT_EQ(api.init(&spec, order, flag, 0, m, initSize ? initBuf.data() + 1 : nullptr), VEK_OK);
         int b = 0;
