@@ -15,6 +15,6 @@ cmake --build "$scratch/cmake" >/dev/null
 LD_LIBRARY_PATH="$libdir" "$scratch/cmake/veks_example" | grep -q "vekSP"
 
 PKG_CONFIG_PATH="$libdir/pkgconfig" cc -o "$scratch/pc_example" "$root/examples/example.c" \
-    $(PKG_CONFIG_PATH="$libdir/pkgconfig" pkg-config --cflags --libs veks)
+    $(PKG_CONFIG_PATH="$libdir/pkgconfig" pkg-config --cflags --libs veks) -lm
 LD_LIBRARY_PATH="$libdir" "$scratch/pc_example" | grep -q "vekSP"
 echo "installed tree works through the CMake package and pkg-config"
