@@ -35,7 +35,7 @@ void fill(vb::Buf<T>& b, int salt) {
 // Two sources, one destination.
 template <class T, class F>
 void runBinary(benchmark::State& st, F f, int n) {
-    vb::Buf<T> a(n), b(n), d(n);
+    vb::Buf<T> a(n, 0, 0), b(n, 0, 1), d(n, 0, 2);
     fill(a, 1);
     fill(b, 2);
     for (auto _ : st) {
@@ -46,23 +46,29 @@ void runBinary(benchmark::State& st, F f, int n) {
 }
 
 // ---- plain loops: what -O3 makes of the obvious code ---------------------------
+//
+// Each is a function of its own, called with pointers it knows nothing about,
+// as a user's loop would be: inlined into the benchmark it would see the
+// buffers' alignment and offsets, which no library call can.
 
-void plainAdd32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] + b[i]; }
-void plainSub32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = b[i] - a[i]; }
-void plainMul32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] * b[i]; }
-void plainDiv32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = b[i] / a[i]; }
-void plainAddP32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = d[i] + a[i] * b[i]; }
-void plainAdd64f(const double* a, const double* b, double* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] + b[i]; }
-void plainMul64f(const double* a, const double* b, double* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] * b[i]; }
-void plainDiv64f(const double* a, const double* b, double* d, int n) { for (int i = 0; i < n; ++i) d[i] = b[i] / a[i]; }
-void plainAdd32fc(const T32fc* a, const T32fc* b, T32fc* d, int n) {
+#define PLAIN __attribute__((noinline))
+
+PLAIN void plainAdd32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] + b[i]; }
+PLAIN void plainSub32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = b[i] - a[i]; }
+PLAIN void plainMul32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] * b[i]; }
+PLAIN void plainDiv32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = b[i] / a[i]; }
+PLAIN void plainAddP32f(const float* a, const float* b, float* d, int n) { for (int i = 0; i < n; ++i) d[i] = d[i] + a[i] * b[i]; }
+PLAIN void plainAdd64f(const double* a, const double* b, double* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] + b[i]; }
+PLAIN void plainMul64f(const double* a, const double* b, double* d, int n) { for (int i = 0; i < n; ++i) d[i] = a[i] * b[i]; }
+PLAIN void plainDiv64f(const double* a, const double* b, double* d, int n) { for (int i = 0; i < n; ++i) d[i] = b[i] / a[i]; }
+PLAIN void plainAdd32fc(const T32fc* a, const T32fc* b, T32fc* d, int n) {
     for (int i = 0; i < n; ++i) {
         d[i].re = a[i].re + b[i].re;
         d[i].im = a[i].im + b[i].im;
     }
 }
 template <class C>
-void plainMulC(const C* a, const C* b, C* d, int n) {
+PLAIN void plainMulC(const C* a, const C* b, C* d, int n) {
     for (int i = 0; i < n; ++i) {
         const auto re = a[i].re * b[i].re - a[i].im * b[i].im;
         const auto im = a[i].re * b[i].im + a[i].im * b[i].re;
@@ -71,7 +77,7 @@ void plainMulC(const C* a, const C* b, C* d, int n) {
     }
 }
 template <class C>
-void plainDivC(const C* a, const C* b, C* d, int n) {
+PLAIN void plainDivC(const C* a, const C* b, C* d, int n) {
     for (int i = 0; i < n; ++i) {
         const auto m = a[i].re * a[i].re + a[i].im * a[i].im;
         const auto re = (b[i].re * a[i].re + b[i].im * a[i].im) / m;
@@ -80,25 +86,25 @@ void plainDivC(const C* a, const C* b, C* d, int n) {
         d[i].im = im;
     }
 }
-void plainAdd64fc(const T64fc* a, const T64fc* b, T64fc* d, int n) {
+PLAIN void plainAdd64fc(const T64fc* a, const T64fc* b, T64fc* d, int n) {
     for (int i = 0; i < n; ++i) {
         d[i].re = a[i].re + b[i].re;
         d[i].im = a[i].im + b[i].im;
     }
 }
-void plainAddC32f(const float* a, const float* b, float* d, int n) {
+PLAIN void plainAddC32f(const float* a, const float* b, float* d, int n) {
     const float v = b[0];
     for (int i = 0; i < n; ++i) d[i] = a[i] + v;
 }
-void plainMulC32f(const float* a, const float* b, float* d, int n) {
+PLAIN void plainMulC32f(const float* a, const float* b, float* d, int n) {
     const float v = b[0];
     for (int i = 0; i < n; ++i) d[i] = a[i] * v;
 }
-void plainMulC64f(const double* a, const double* b, double* d, int n) {
+PLAIN void plainMulC64f(const double* a, const double* b, double* d, int n) {
     const double v = b[0];
     for (int i = 0; i < n; ++i) d[i] = a[i] * v;
 }
-void plainMulCc32fc(const T32fc* a, const T32fc* b, T32fc* d, int n) {
+PLAIN void plainMulCc32fc(const T32fc* a, const T32fc* b, T32fc* d, int n) {
     const T32fc v = b[0];
     for (int i = 0; i < n; ++i) {
         const float re = a[i].re * v.re - a[i].im * v.im;
