@@ -4,17 +4,19 @@
 // bytes of this build and pick their own block sizes and streaming stores,
 // so copies and zero fills above kSmallBytes go straight to them; below,
 // where the call would cost more than the work, they are done here. Filling
-// with a pattern of 2, 4, 8 or 16 bytes has no library routine: fillPattern
-// stores small fills directly, mid-sized ones at 16-byte aligned addresses,
-// larger ones by copying a filled block along with memcpy, and fills larger
-// than the caches with streaming stores. fillPatternScalar is its twin and
-// oracle.
+// with a pattern of 2 or 4 bytes goes to the library's wide-character fill
+// (its unit is 4 bytes on every target), with the same wide stores. Patterns
+// of 8 and 16 bytes have no library routine: fillPattern stores small fills
+// directly, mid-sized ones at 16-byte aligned addresses, larger ones by
+// copying a filled block along with memcpy, and fills larger than the caches
+// with streaming stores. fillPatternScalar is its twin and oracle.
 #pragma once
 
 #include <stddef.h>
 #include <stdint.h>
 #include <string.h>
 #include <tmmintrin.h>
+#include <wchar.h>
 
 #include <utility>
 
@@ -22,8 +24,9 @@ namespace veks {
 namespace kern {
 
 // Up to this many bytes the call into the C library costs more than the
-// copy itself: the copy is done here, in 16-byte pieces.
-constexpr size_t kSmallBytes = 256;
+// copy itself: the copy is done here, in 16-byte pieces. (At 256 bytes the
+// library's wider stores already win by more than its call costs.)
+constexpr size_t kSmallBytes = 128;
 
 // K 16-byte pieces from the front and K from the back of n bytes, for
 // 16 K <= n <= 32 K; all loaded before any is stored. Written without loops
@@ -41,9 +44,8 @@ inline void copyFrontBack(unsigned char* d, const unsigned char* s, size_t n, st
 // overlapping buffers are moved correctly too. Pieces at the front and at
 // the back may overlap each other; they carry the same bytes.
 inline void copySmall(unsigned char* d, const unsigned char* s, size_t n) {
-    if (n > 128) {
-        copyFrontBack(d, s, n, std::make_index_sequence<8>());
-    } else if (n > 64) {
+    static_assert(kSmallBytes <= 128, "the largest piece set covers 128 bytes");
+    if (n > 64) {
         copyFrontBack(d, s, n, std::make_index_sequence<4>());
     } else if (n > 32) {
         copyFrontBack(d, s, n, std::make_index_sequence<2>());
@@ -96,9 +98,7 @@ inline void fillFrontBack(unsigned char* d, __m128i v, size_t n, std::index_sequ
 }
 
 inline void fillSmall(unsigned char* d, __m128i v, size_t n) {
-    if (n > 128) {
-        fillFrontBack(d, v, n, std::make_index_sequence<8>());
-    } else if (n > 64) {
+    if (n > 64) {
         fillFrontBack(d, v, n, std::make_index_sequence<4>());
     } else if (n > 32) {
         fillFrontBack(d, v, n, std::make_index_sequence<2>());
@@ -143,6 +143,17 @@ constexpr size_t kPatternBlock = kSmallBytes;
 constexpr size_t kPatternDoubling = 2048;
 constexpr size_t kPatternSource = size_t(16) << 10;
 
+// n bytes (a multiple of 2) at a 4-byte aligned d, filled with the 4 bytes
+// of `unit` repeated; a 2-byte remainder gets the unit's first two bytes.
+// wchar_t is 4 bytes wide on every target of this build.
+inline void fillWide(unsigned char* d, int32_t unit, size_t n) {
+    static_assert(sizeof(wchar_t) == 4, "the wide fill writes 4-byte units");
+    wchar_t w;
+    memcpy(&w, &unit, 4);
+    wmemset(reinterpret_cast<wchar_t*>(d), w, n / 4);
+    if (n & 2) memcpy(d + n - 2, &unit, 2);
+}
+
 // `first` holds the W-byte pattern repeated over 16 bytes.
 template <size_t W>
 inline void fillPattern(void* dst, __m128i first, size_t count) {
@@ -152,6 +163,12 @@ inline void fillPattern(void* dst, __m128i first, size_t count) {
     if (n <= kSmallBytes) {
         fillSmall(d, first, n);
         return;
+    }
+    if constexpr (W <= 4) {
+        if ((reinterpret_cast<uintptr_t>(d) & 3) == 0) {
+            fillWide(d, _mm_cvtsi128_si32(first), n);
+            return;
+        }
     }
     _mm_storeu_si128(reinterpret_cast<__m128i*>(d), first);
     // From the first 16-byte boundary on, every store is aligned. When the
