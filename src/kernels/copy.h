@@ -156,6 +156,9 @@ inline void fillWide(unsigned char* d, int32_t unit, size_t n) {
 
 // `first` holds the W-byte pattern repeated over 16 bytes.
 template <size_t W>
+__attribute__((noinline)) void fillPatternLarge(unsigned char* d, __m128i first, size_t n);
+
+template <size_t W>
 inline void fillPattern(void* dst, __m128i first, size_t count) {
     static_assert(W == 2 || W == 4 || W == 8 || W == 16, "pattern widths divide 16");
     const size_t n = count * W;
@@ -170,6 +173,13 @@ inline void fillPattern(void* dst, __m128i first, size_t count) {
             return;
         }
     }
+    // Out of line: the registers the large fills need are then saved only
+    // on their own path, not on every small fill.
+    fillPatternLarge<W>(d, first, n);
+}
+
+template <size_t W>
+__attribute__((noinline)) void fillPatternLarge(unsigned char* d, __m128i first, size_t n) {
     _mm_storeu_si128(reinterpret_cast<__m128i*>(d), first);
     // From the first 16-byte boundary on, every store is aligned. When the
     // boundary falls inside an element (a start not aligned to the element
