@@ -123,8 +123,9 @@ void polarToCart32fScalar(const T32f* pMagn, const T32f* pPhase, Dst dst, size_t
 template <class Dst>
 void polarToCart32f(const T32f* pMagn, const T32f* pPhase, Dst dst, size_t n) {
     size_t i = 0;
-    // Two independent groups per step, as in phase32f. Groups with a lane
-    // far from zero (or not finite) take the scalar path whole.
+    // Four independent groups per step, advanced side by side (their
+    // chains are long). Groups with a lane far from zero (or not finite)
+    // take the scalar path whole.
     for (; i + 16 <= n; i += 16) {
         const __m128 ph0 = _mm_loadu_ps(pPhase + i), ph1 = _mm_loadu_ps(pPhase + i + 4);
         const __m128 ph2 = _mm_loadu_ps(pPhase + i + 8), ph3 = _mm_loadu_ps(pPhase + i + 12);
@@ -132,17 +133,15 @@ void polarToCart32f(const T32f* pMagn, const T32f* pPhase, Dst dst, size_t n) {
             polarToCart32fScalar(pMagn, pPhase, dst, i, i + 16);
             continue;
         }
-        __m128 s0, c0, s1, c1, s2, c2, s3, c3;
-        sincosv(ph0, &s0, &c0);
-        sincosv(ph1, &s1, &c1);
-        sincosv(ph2, &s2, &c2);
-        sincosv(ph3, &s3, &c3);
+        const __m128 ph[4] = {ph0, ph1, ph2, ph3};
+        __m128 s[4], c[4];
+        sincosvGroups<4>(ph, s, c);
         const __m128 mg0 = _mm_loadu_ps(pMagn + i), mg1 = _mm_loadu_ps(pMagn + i + 4);
         const __m128 mg2 = _mm_loadu_ps(pMagn + i + 8), mg3 = _mm_loadu_ps(pMagn + i + 12);
-        dst.store4(i, _mm_mul_ps(mg0, c0), _mm_mul_ps(mg0, s0));
-        dst.store4(i + 4, _mm_mul_ps(mg1, c1), _mm_mul_ps(mg1, s1));
-        dst.store4(i + 8, _mm_mul_ps(mg2, c2), _mm_mul_ps(mg2, s2));
-        dst.store4(i + 12, _mm_mul_ps(mg3, c3), _mm_mul_ps(mg3, s3));
+        dst.store4(i, _mm_mul_ps(mg0, c[0]), _mm_mul_ps(mg0, s[0]));
+        dst.store4(i + 4, _mm_mul_ps(mg1, c[1]), _mm_mul_ps(mg1, s[1]));
+        dst.store4(i + 8, _mm_mul_ps(mg2, c[2]), _mm_mul_ps(mg2, s[2]));
+        dst.store4(i + 12, _mm_mul_ps(mg3, c[3]), _mm_mul_ps(mg3, s[3]));
     }
     for (; i + 4 <= n; i += 4) {
         const __m128 ph = _mm_loadu_ps(pPhase + i);
