@@ -234,19 +234,21 @@ inline void sincoss(float x, float* s, float* c) {
     *c = ((k + 1) & 2) ? -co : co;
 }
 
+// Whether any lane of G groups is beyond kSinCosLimit (or NaN), with one
+// mask test.
+template <size_t G>
+inline int sinCosOutOfRangeAny(const __m128* x) {
+    const SinCosLanes& V = *opaque(&kSinCosLanes);
+    __m128 far = _mm_cmpnle_ps(_mm_andnot_ps(V.signMask(), x[0]), V.limit());
+    for (size_t g = 1; g < G; ++g) far = _mm_or_ps(far, _mm_cmpnle_ps(_mm_andnot_ps(V.signMask(), x[g]), V.limit()));
+    return _mm_movemask_ps(far);
+}
+
 // Lanes whose |x| is beyond kSinCosLimit (or NaN) need the scalar path.
 inline int sinCosOutOfRange(__m128 x) {
     const SinCosLanes& V = *opaque(&kSinCosLanes);
     const __m128 ax = _mm_andnot_ps(V.signMask(), x);
     return _mm_movemask_ps(_mm_cmpnle_ps(ax, V.limit()));
-}
-
-// The same for two groups at once (a NaN in either makes the maximum NaN
-// or is caught by the unordered comparison).
-inline int sinCosOutOfRange(__m128 x0, __m128 x1) {
-    const SinCosLanes& V = *opaque(&kSinCosLanes);
-    const __m128 a0 = _mm_andnot_ps(V.signMask(), x0), a1 = _mm_andnot_ps(V.signMask(), x1);
-    return _mm_movemask_ps(_mm_or_ps(_mm_cmpnle_ps(a0, V.limit()), _mm_cmpnle_ps(a1, V.limit())));
 }
 
 // Sine and cosine of G groups of four lanes, every step done for all groups
