@@ -117,8 +117,8 @@ BENCHMARK(BM_memset_mis)->Apply(byteSizes);
 constexpr size_t kN = 4096;
 
 struct PolarBufs {
-    vb::Buf<T32fc> c{kN};
-    vb::Buf<T32f> re{kN}, im{kN}, m{kN}, ph{kN};
+    vb::Buf<T32fc> c{kN, 0, 0};
+    vb::Buf<T32f> re{kN, 0, 1}, im{kN, 0, 2}, m{kN, 0, 3}, ph{kN, 0, 4};
     PolarBufs() {
         uint32_t s = 12345;
         for (size_t i = 0; i < kN; ++i) {
@@ -135,11 +135,57 @@ struct PolarBufs {
     }
 };
 
+// The peer loops are separate functions that are never inlined, as a user's
+// loop would be: inlined into the benchmark they would see the buffers'
+// alignment and offsets, which no library call can.
+#define PLAIN __attribute__((noinline))
+
+PLAIN void plainHypot(const T32fc* c, T32f* d, size_t n) {
+    for (size_t i = 0; i < n; ++i) d[i] = hypotf(c[i].re, c[i].im);
+}
+PLAIN void plainHypot(const T32f* re, const T32f* im, T32f* d, size_t n) {
+    for (size_t i = 0; i < n; ++i) d[i] = hypotf(re[i], im[i]);
+}
+PLAIN void plainAtan2(const T32fc* c, T32f* d, size_t n) {
+    for (size_t i = 0; i < n; ++i) d[i] = atan2f(c[i].im, c[i].re);
+}
+PLAIN void plainAtan2(const T32f* re, const T32f* im, T32f* d, size_t n) {
+    for (size_t i = 0; i < n; ++i) d[i] = atan2f(im[i], re[i]);
+}
+PLAIN void plainCartToPolar(const T32fc* c, T32f* m, T32f* ph, size_t n) {
+    for (size_t i = 0; i < n; ++i) {
+        m[i] = hypotf(c[i].re, c[i].im);
+        ph[i] = atan2f(c[i].im, c[i].re);
+    }
+}
+PLAIN void plainCartToPolar(const T32f* re, const T32f* im, T32f* m, T32f* ph, size_t n) {
+    for (size_t i = 0; i < n; ++i) {
+        m[i] = hypotf(re[i], im[i]);
+        ph[i] = atan2f(im[i], re[i]);
+    }
+}
+PLAIN void plainPolarToCart(const T32f* m, const T32f* ph, T32fc* d, size_t n) {
+    for (size_t i = 0; i < n; ++i) {
+        float s, c;
+        sincosf(ph[i], &s, &c);
+        d[i].re = m[i] * c;
+        d[i].im = m[i] * s;
+    }
+}
+PLAIN void plainPolarToCart(const T32f* m, const T32f* ph, T32f* re, T32f* im, size_t n) {
+    for (size_t i = 0; i < n; ++i) {
+        float s, c;
+        sincosf(ph[i], &s, &c);
+        re[i] = m[i] * c;
+        im[i] = m[i] * s;
+    }
+}
+
 #define POLAR_BENCH(NAME, ...)                                                    \
     void NAME(benchmark::State& st) {                                            \
         PolarBufs b;                                                             \
-        vb::Buf<T32f> o1(kN), o2(kN);                                            \
-        vb::Buf<T32fc> oc(kN);                                                   \
+        vb::Buf<T32f> o1(kN, 0, 5), o2(kN, 0, 6);                                \
+        vb::Buf<T32fc> oc(kN, 0, 5);                                             \
         for (auto _ : st) {                                                      \
             __VA_ARGS__;                                                         \
             benchmark::ClobberMemory();                                          \
@@ -150,24 +196,16 @@ struct PolarBufs {
 
 POLAR_BENCH(BM_veksMagnitude_32fc, veksMagnitude_32fc(b.c.p, o1.p, int(kN)))
 POLAR_BENCH(BM_veksMagnitude_32f, veksMagnitude_32f(b.re.p, b.im.p, o1.p, int(kN)))
-POLAR_BENCH(BM_hypotf_loop, for (size_t i = 0; i < kN; ++i) o1.p[i] = hypotf(b.c.p[i].re, b.c.p[i].im))
+POLAR_BENCH(BM_hypotf_loop, plainHypot(b.c.p, o1.p, kN))
 POLAR_BENCH(BM_veksPhase_32fc, veksPhase_32fc(b.c.p, o1.p, int(kN)))
 POLAR_BENCH(BM_veksPhase_32f, veksPhase_32f(b.re.p, b.im.p, o1.p, int(kN)))
-POLAR_BENCH(BM_atan2f_loop, for (size_t i = 0; i < kN; ++i) o1.p[i] = atan2f(b.c.p[i].im, b.c.p[i].re))
+POLAR_BENCH(BM_atan2f_loop, plainAtan2(b.c.p, o1.p, kN))
 POLAR_BENCH(BM_veksCartToPolar_32fc, veksCartToPolar_32fc(b.c.p, o1.p, o2.p, int(kN)))
 POLAR_BENCH(BM_veksCartToPolar_32f, veksCartToPolar_32f(b.re.p, b.im.p, o1.p, o2.p, int(kN)))
-POLAR_BENCH(BM_hypotf_atan2f_loop, for (size_t i = 0; i < kN; ++i) {
-    o1.p[i] = hypotf(b.c.p[i].re, b.c.p[i].im);
-    o2.p[i] = atan2f(b.c.p[i].im, b.c.p[i].re);
-})
+POLAR_BENCH(BM_hypotf_atan2f_loop, plainCartToPolar(b.c.p, o1.p, o2.p, kN))
 POLAR_BENCH(BM_veksPolarToCart_32fc, veksPolarToCart_32fc(b.m.p, b.ph.p, oc.p, int(kN)))
 POLAR_BENCH(BM_veksPolarToCart_32f, veksPolarToCart_32f(b.m.p, b.ph.p, o1.p, o2.p, int(kN)))
-POLAR_BENCH(BM_sincosf_loop, for (size_t i = 0; i < kN; ++i) {
-    float s, c;
-    sincosf(b.ph.p[i], &s, &c);
-    oc.p[i].re = b.m.p[i] * c;
-    oc.p[i].im = b.m.p[i] * s;
-})
+POLAR_BENCH(BM_sincosf_loop, plainPolarToCart(b.m.p, b.ph.p, oc.p, kN))
 
 
 // ---- paired timing ----------------------------------------------------------------
@@ -248,44 +286,26 @@ BENCHMARK(Zero)->Apply(byteSizes)->Name("Paired_Zero32f_memset");
 #define PAIRED_POLAR(NAME, VEKS, ...)                            \
     void NAME(benchmark::State& st) {                            \
         PolarBufs b;                                             \
-        vb::Buf<T32f> o1(kN), o2(kN);                            \
-        vb::Buf<T32fc> oc(kN);                                   \
+        vb::Buf<T32f> o1(kN, 0, 5), o2(kN, 0, 6);                \
+        vb::Buf<T32fc> oc(kN, 0, 5);                             \
         race(st, kN * 8, [&] { VEKS; }, [&] { __VA_ARGS__; });   \
     }                                                            \
     BENCHMARK(NAME);
 
-PAIRED_POLAR(Paired_Magnitude32fc_hypotf, veksMagnitude_32fc(b.c.p, o1.p, int(kN)),
-             for (size_t i = 0; i < kN; ++i) o1.p[i] = hypotf(b.c.p[i].re, b.c.p[i].im))
+PAIRED_POLAR(Paired_Magnitude32fc_hypotf, veksMagnitude_32fc(b.c.p, o1.p, int(kN)), plainHypot(b.c.p, o1.p, kN))
 PAIRED_POLAR(Paired_Magnitude32f_hypotf, veksMagnitude_32f(b.re.p, b.im.p, o1.p, int(kN)),
-             for (size_t i = 0; i < kN; ++i) o1.p[i] = hypotf(b.re.p[i], b.im.p[i]))
-PAIRED_POLAR(Paired_Phase32fc_atan2f, veksPhase_32fc(b.c.p, o1.p, int(kN)),
-             for (size_t i = 0; i < kN; ++i) o1.p[i] = atan2f(b.c.p[i].im, b.c.p[i].re))
+             plainHypot(b.re.p, b.im.p, o1.p, kN))
+PAIRED_POLAR(Paired_Phase32fc_atan2f, veksPhase_32fc(b.c.p, o1.p, int(kN)), plainAtan2(b.c.p, o1.p, kN))
 PAIRED_POLAR(Paired_Phase32f_atan2f, veksPhase_32f(b.re.p, b.im.p, o1.p, int(kN)),
-             for (size_t i = 0; i < kN; ++i) o1.p[i] = atan2f(b.im.p[i], b.re.p[i]))
+             plainAtan2(b.re.p, b.im.p, o1.p, kN))
 PAIRED_POLAR(Paired_CartToPolar32fc_hypotf_atan2f, veksCartToPolar_32fc(b.c.p, o1.p, o2.p, int(kN)),
-             for (size_t i = 0; i < kN; ++i) {
-                 o1.p[i] = hypotf(b.c.p[i].re, b.c.p[i].im);
-                 o2.p[i] = atan2f(b.c.p[i].im, b.c.p[i].re);
-             })
+             plainCartToPolar(b.c.p, o1.p, o2.p, kN))
 PAIRED_POLAR(Paired_CartToPolar32f_hypotf_atan2f, veksCartToPolar_32f(b.re.p, b.im.p, o1.p, o2.p, int(kN)),
-             for (size_t i = 0; i < kN; ++i) {
-                 o1.p[i] = hypotf(b.re.p[i], b.im.p[i]);
-                 o2.p[i] = atan2f(b.im.p[i], b.re.p[i]);
-             })
+             plainCartToPolar(b.re.p, b.im.p, o1.p, o2.p, kN))
 PAIRED_POLAR(Paired_PolarToCart32fc_sincosf, veksPolarToCart_32fc(b.m.p, b.ph.p, oc.p, int(kN)),
-             for (size_t i = 0; i < kN; ++i) {
-                 float s, c;
-                 sincosf(b.ph.p[i], &s, &c);
-                 oc.p[i].re = b.m.p[i] * c;
-                 oc.p[i].im = b.m.p[i] * s;
-             })
+             plainPolarToCart(b.m.p, b.ph.p, oc.p, kN))
 PAIRED_POLAR(Paired_PolarToCart32f_sincosf, veksPolarToCart_32f(b.m.p, b.ph.p, o1.p, o2.p, int(kN)),
-             for (size_t i = 0; i < kN; ++i) {
-                 float s, c;
-                 sincosf(b.ph.p[i], &s, &c);
-                 o1.p[i] = b.m.p[i] * c;
-                 o2.p[i] = b.m.p[i] * s;
-             })
+             plainPolarToCart(b.m.p, b.ph.p, o1.p, o2.p, kN))
 
 }  // namespace paired
 

@@ -69,15 +69,53 @@ inline void store4(float* p, __m128i v, __m128 f, bool scaled) {
     put<S>(p, y);
 }
 
-template <bool S>
-inline void store4(double* p, __m128i v, __m128d f, bool scaled) {
-    __m128d a = _mm_cvtepi32_pd(v), b = _mm_cvtepi32_pd(_mm_unpackhi_epi64(v, v));
-    if (scaled) {
-        a = _mm_mul_pd(a, f);
-        b = _mm_mul_pd(b, f);
+// Loads folded into the widening and converting instructions. Written out
+// because the compiler keeps a separate 8-byte load in front of each
+// conversion, and merges two neighbouring 8-byte loads into one 16-byte
+// load that then costs a shuffle to split: in these store-bound loops every
+// extra instruction shows.
+inline __m128i widen4x16s(const T16s* p) {  // four 16-bit integers to int32 lanes
+    __m128i r;
+    __asm__("pmovsxwd %1, %0" : "=x"(r) : "m"(*reinterpret_cast<const int64_t*>(p)));
+    return r;
+}
+inline __m128d pairToDouble(const T32s* p) {
+    __m128d r;
+    __asm__("cvtdq2pd %1, %0" : "=x"(r) : "m"(*reinterpret_cast<const int64_t*>(p)));
+    return r;
+}
+inline __m128d pairToDouble(const float* p) {
+    __m128d r;
+    __asm__("cvtps2pd %1, %0" : "=x"(r) : "m"(*reinterpret_cast<const int64_t*>(p)));
+    return r;
+}
+
+// Double destinations: every 16-byte store holds two results, so the loop
+// is bound by its stores. Sixteen elements per step keep the loop overhead
+// small; 32-bit integers convert straight from 8-byte loads (no shuffle),
+// 16-bit ones widen four at a time and convert the upper pair after one
+// shuffle.
+template <bool S, bool Scaled, class TSrc>
+inline size_t intToDoubleLoop(const TSrc* s, double* d, size_t m, __m128d f) {
+    size_t i = 0;
+    auto out = [f](double* p, __m128d y) {
+        if (Scaled) y = _mm_mul_pd(y, f);
+        put<S>(p, y);
+    };
+    for (; i + 16 <= m; i += 16) {
+        for (size_t k = 0; k < 16; k += 4) {
+            if constexpr (std::is_same<TSrc, T32s>::value) {
+                out(d + i + k, pairToDouble(s + i + k));
+                out(d + i + k + 2, pairToDouble(s + i + k + 2));
+            } else {
+                const __m128i v = std::is_same<TSrc, T16s>::value ? widen4x16s(reinterpret_cast<const T16s*>(s + i + k))
+                                                                   : load4(s + i + k);
+                out(d + i + k, _mm_cvtepi32_pd(v));
+                out(d + i + k + 2, _mm_cvtepi32_pd(_mm_unpackhi_epi64(v, v)));
+            }
+        }
     }
-    put<S>(p, a);
-    put<S>(p + 2, b);
+    return i;
 }
 
 // Two 64-bit integers to two doubles, rounding once as int64ToDouble does:
@@ -104,13 +142,10 @@ inline void intToFloat(const TSrc* pSrc, TDst* pDst, size_t n, TDst factor) {
                 if (Scaled) y = _mm_mul_pd(y, f);
                 put<S>(d + i, y);
             }
+        } else if constexpr (sizeof(TDst) == 8) {
+            i = intToDoubleLoop<S, Scaled>(s, d, m, _mm_set1_pd(factor));
         } else {
-            const auto f = [&] {
-                if constexpr (sizeof(TDst) == 4)
-                    return _mm_set1_ps(factor);
-                else
-                    return _mm_set1_pd(factor);
-            }();
+            const __m128 f = _mm_set1_ps(factor);
             for (; i + 8 <= m; i += 8) {
                 const __m128i a = load4(s + i), b = load4(s + i + 4);
                 store4<S>(d + i, a, f, Scaled);
@@ -129,11 +164,11 @@ inline void floatToDouble(const float* pSrc, double* pDst, size_t n) {
     auto loop = [](auto stream, const float* s, double* d, size_t m) {
         constexpr bool S = decltype(stream)::value;
         size_t i = 0;
-        for (; i + 4 <= m; i += 4) {
-            const __m128 v = _mm_loadu_ps(s + i);
-            put<S>(d + i, _mm_cvtps_pd(v));
-            put<S>(d + i + 2, _mm_cvtps_pd(_mm_movehl_ps(v, v)));
-        }
+        // Pairs converted straight from 8-byte loads (no shuffle), sixteen
+        // elements per step: the loop is bound by its stores.
+        for (; i + 16 <= m; i += 16)
+            for (size_t k = 0; k < 16; k += 2)
+                put<S>(d + i + k, pairToDouble(s + i + k));
         return i;
     };
     drive(pSrc, pDst, n, loop, [](const float* s, double* d, size_t m) {
@@ -145,9 +180,11 @@ inline void doubleToFloat(const double* pSrc, float* pDst, size_t n) {
     auto loop = [](auto stream, const double* s, float* d, size_t m) {
         constexpr bool S = decltype(stream)::value;
         size_t i = 0;
-        for (; i + 4 <= m; i += 4) {
-            const __m128 a = _mm_cvtpd_ps(_mm_loadu_pd(s + i)), b = _mm_cvtpd_ps(_mm_loadu_pd(s + i + 2));
-            put<S>(d + i, _mm_movelh_ps(a, b));
+        for (; i + 16 <= m; i += 16) {
+            for (size_t k = 0; k < 16; k += 4) {
+                const __m128 a = _mm_cvtpd_ps(_mm_loadu_pd(s + i + k)), b = _mm_cvtpd_ps(_mm_loadu_pd(s + i + k + 2));
+                put<S>(d + i + k, _mm_movelh_ps(a, b));
+            }
         }
         return i;
     };

@@ -165,9 +165,10 @@ inline __m128 atan2v(__m128 y, __m128 x) {
 
 // ---- sine and cosine -----------------------------------------------------
 //
-// k = nearest integer to x * 2/pi, r = x - k * pi/2 with pi/2 in four parts
-// (three of 12 bits, so that k * part is exact for |k| < 2^12), then the
-// classic minimax polynomials on [-pi/4, pi/4] and the quadrant k mod 4.
+// On |x|: k = nearest integer to |x| * 2/pi, r = |x| - k * pi/2 with pi/2 in
+// four parts (three of 12 bits, so that k * part is exact for |k| < 2^12),
+// then the classic minimax polynomials on [-pi/4, pi/4], the quadrant k mod 4
+// and the sign of x on the sine.
 
 struct SinCosConsts {
     static constexpr float twoOverPi = 0.63661974668502807617f;
@@ -207,10 +208,14 @@ inline void sincoss(float x, float* s, float* c) {
         *c = static_cast<float>(cd);
         return;
     }
-    // A zero x gives r = +0 (kf may be -0); its sign is put back at the end.
-    const float kf = __builtin_roundevenf(x * C::twoOverPi);
+    // Sine is odd and cosine even, and every step below (products,
+    // differences, rounding to nearest even) is symmetric in sign, so the
+    // work is done on |x| and the sign of x put on the sine at the end; that
+    // also gives -0 for -0.
+    const float ax = fabsf(x);
+    const float kf = __builtin_roundevenf(ax * C::twoOverPi);
     const int k = static_cast<int>(kf);
-    float r = x - kf * C::c1;
+    float r = ax - kf * C::c1;
     r = r - kf * C::c2;
     r = r - kf * C::c3;
     r = r - kf * C::c4;
@@ -225,8 +230,18 @@ inline void sincoss(float x, float* s, float* c) {
     const float cr = (pc * z2 - 0.5f * z) + 1.0f;
     const float so = (k & 1) ? cr : sr, co = (k & 1) ? sr : cr;
     const float sv = (k & 2) ? -so : so;
-    *s = (x == 0.0f && signBit(x)) ? -sv : sv;
+    *s = signBit(x) ? -sv : sv;
     *c = ((k + 1) & 2) ? -co : co;
+}
+
+// Whether any lane of G groups is beyond kSinCosLimit (or NaN), with one
+// mask test.
+template <size_t G>
+inline int sinCosOutOfRangeAny(const __m128* x) {
+    const SinCosLanes& V = *opaque(&kSinCosLanes);
+    __m128 far = _mm_cmpnle_ps(_mm_andnot_ps(V.signMask(), x[0]), V.limit());
+    for (size_t g = 1; g < G; ++g) far = _mm_or_ps(far, _mm_cmpnle_ps(_mm_andnot_ps(V.signMask(), x[g]), V.limit()));
+    return _mm_movemask_ps(far);
 }
 
 // Lanes whose |x| is beyond kSinCosLimit (or NaN) need the scalar path.
@@ -236,41 +251,46 @@ inline int sinCosOutOfRange(__m128 x) {
     return _mm_movemask_ps(_mm_cmpnle_ps(ax, V.limit()));
 }
 
-// The same for two groups at once (a NaN in either makes the maximum NaN
-// or is caught by the unordered comparison).
-inline int sinCosOutOfRange(__m128 x0, __m128 x1) {
+// Sine and cosine of G groups of four lanes, every step done for all groups
+// before the next. The chains are long (about 45 cycles); written group
+// after group, the processor's window holds little more than two of them at
+// a time, while interleaved all G advance together. Valid for lanes in
+// range; callers check sinCosOutOfRange first.
+template <size_t G>
+inline void sincosvGroups(const __m128* x, __m128* s, __m128* c) {
     const SinCosLanes& V = *opaque(&kSinCosLanes);
-    const __m128 a0 = _mm_andnot_ps(V.signMask(), x0), a1 = _mm_andnot_ps(V.signMask(), x1);
-    return _mm_movemask_ps(_mm_or_ps(_mm_cmpnle_ps(a0, V.limit()), _mm_cmpnle_ps(a1, V.limit())));
-}
-
-// Valid for lanes in range; callers check sinCosOutOfRange first.
-inline void sincosv(__m128 x, __m128* s, __m128* c) {
-    const SinCosLanes& V = *opaque(&kSinCosLanes);
-    const __m128 kf = _mm_round_ps(_mm_mul_ps(x, V.twoOverPi()), _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
-    const __m128i k = _mm_cvtps_epi32(kf);
-    __m128 r = _mm_sub_ps(x, _mm_mul_ps(kf, V.c1()));
-    r = _mm_sub_ps(r, _mm_mul_ps(kf, V.c2()));
-    r = _mm_sub_ps(r, _mm_mul_ps(kf, V.c3()));
-    r = _mm_sub_ps(r, _mm_mul_ps(kf, V.c4()));
-    const __m128 z = _mm_mul_ps(r, r);
-    const __m128 z2 = _mm_mul_ps(z, z);
-    const __m128 ps = _mm_add_ps(_mm_add_ps(V.s1(), _mm_mul_ps(V.s2(), z)), _mm_mul_ps(V.s3(), z2));
-    const __m128 sr = _mm_add_ps(r, _mm_mul_ps(_mm_mul_ps(r, z), ps));
-    const __m128 pc = _mm_add_ps(_mm_add_ps(V.k1(), _mm_mul_ps(V.k2(), z)), _mm_mul_ps(V.k3(), z2));
-    const __m128 cr = _mm_add_ps(_mm_sub_ps(_mm_mul_ps(pc, z2), _mm_mul_ps(V.half(), z)), V.one());
+    __m128 ax[G], kf[G], r[G], z[G], z2[G], sr[G], cr[G];
+    __m128i k[G];
+    for (size_t g = 0; g < G; ++g) ax[g] = _mm_andnot_ps(V.signMask(), x[g]);
+    for (size_t g = 0; g < G; ++g)
+        kf[g] = _mm_round_ps(_mm_mul_ps(ax[g], V.twoOverPi()), _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
+    for (size_t g = 0; g < G; ++g) k[g] = _mm_cvtps_epi32(kf[g]);
+    for (size_t g = 0; g < G; ++g) r[g] = _mm_sub_ps(ax[g], _mm_mul_ps(kf[g], V.c1()));
+    for (size_t g = 0; g < G; ++g) r[g] = _mm_sub_ps(r[g], _mm_mul_ps(kf[g], V.c2()));
+    for (size_t g = 0; g < G; ++g) r[g] = _mm_sub_ps(r[g], _mm_mul_ps(kf[g], V.c3()));
+    for (size_t g = 0; g < G; ++g) r[g] = _mm_sub_ps(r[g], _mm_mul_ps(kf[g], V.c4()));
+    for (size_t g = 0; g < G; ++g) z[g] = _mm_mul_ps(r[g], r[g]);
+    for (size_t g = 0; g < G; ++g) z2[g] = _mm_mul_ps(z[g], z[g]);
+    for (size_t g = 0; g < G; ++g) {
+        const __m128 ps = _mm_add_ps(_mm_add_ps(V.s1(), _mm_mul_ps(V.s2(), z[g])), _mm_mul_ps(V.s3(), z2[g]));
+        const __m128 pc = _mm_add_ps(_mm_add_ps(V.k1(), _mm_mul_ps(V.k2(), z[g])), _mm_mul_ps(V.k3(), z2[g]));
+        sr[g] = _mm_add_ps(r[g], _mm_mul_ps(_mm_mul_ps(r[g], z[g]), ps));
+        cr[g] = _mm_add_ps(_mm_sub_ps(_mm_mul_ps(pc, z2[g]), _mm_mul_ps(V.half(), z[g])), V.one());
+    }
     // Bit 0 of k, moved to the sign bit, selects the swapped polynomials;
     // bit 1 of k (of k + 1 for the cosine, which is bit 1 of k flipped by
-    // bit 0) the negated result. A zero x passes its sign to the sine.
-    const __m128 odd = _mm_castsi128_ps(_mm_slli_epi32(k, 31));
-    const __m128 so = _mm_blendv_ps(sr, cr, odd), co = _mm_blendv_ps(cr, sr, odd);
-    const __m128 quadrant = _mm_castsi128_ps(_mm_and_si128(_mm_slli_epi32(k, 30), _mm_castps_si128(V.signMask())));
-    const __m128 zeroSign = _mm_and_ps(_mm_cmpeq_ps(x, _mm_setzero_ps()), _mm_and_ps(x, V.signMask()));
-    const __m128 sFlip = _mm_or_ps(quadrant, zeroSign);
-    const __m128 cFlip = _mm_xor_ps(quadrant, odd);
-    *s = _mm_xor_ps(so, sFlip);
-    *c = _mm_xor_ps(co, cFlip);
+    // bit 0) the negated result. The sine takes the sign of x as well.
+    for (size_t g = 0; g < G; ++g) {
+        const __m128 odd = _mm_castsi128_ps(_mm_slli_epi32(k[g], 31));
+        const __m128 so = _mm_blendv_ps(sr[g], cr[g], odd), co = _mm_blendv_ps(cr[g], sr[g], odd);
+        const __m128 quadrant =
+            _mm_castsi128_ps(_mm_and_si128(_mm_slli_epi32(k[g], 30), _mm_castps_si128(V.signMask())));
+        s[g] = _mm_xor_ps(so, _mm_xor_ps(quadrant, _mm_and_ps(x[g], V.signMask())));
+        c[g] = _mm_xor_ps(co, _mm_xor_ps(quadrant, odd));
+    }
 }
+
+inline void sincosv(__m128 x, __m128* s, __m128* c) { sincosvGroups<1>(&x, s, c); }
 
 }  // namespace kern
 }  // namespace veks

@@ -92,6 +92,7 @@ Bytes gen(uint64_t seed, int sf) {
                                static_cast<TS>(ldexpl(b + (b > 0 ? 0.5L : -0.5L), dsf))});
         }
         for (long double x : {-0.5L, ldexpl(-0.5L, dsf), ldexpl(0.49999997L, dsf)}) e.push_back(static_cast<TS>(x));
+        e.push_back(-std::numeric_limits<TS>::quiet_NaN());  // a NaN with its sign bit set still takes the top
         sprinkle(v, e);
     }
     return Bytes(reinterpret_cast<unsigned char*>(v.data()), reinterpret_cast<unsigned char*>(v.data() + v.size()));
