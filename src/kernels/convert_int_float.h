@@ -74,19 +74,22 @@ inline void store4(float* p, __m128i v, __m128 f, bool scaled) {
 // conversion, and merges two neighbouring 8-byte loads into one 16-byte
 // load that then costs a shuffle to split: in these store-bound loops every
 // extra instruction shows.
+// The 8 bytes the instruction reads, typed so that they may alias anything.
+typedef int64_t __attribute__((may_alias)) Bytes8;
+
 inline __m128i widen4x16s(const T16s* p) {  // four 16-bit integers to int32 lanes
     __m128i r;
-    __asm__("pmovsxwd %1, %0" : "=x"(r) : "m"(*reinterpret_cast<const int64_t*>(p)));
+    __asm__("pmovsxwd %1, %0" : "=x"(r) : "m"(*reinterpret_cast<const Bytes8*>(p)));
     return r;
 }
 inline __m128d pairToDouble(const T32s* p) {
     __m128d r;
-    __asm__("cvtdq2pd %1, %0" : "=x"(r) : "m"(*reinterpret_cast<const int64_t*>(p)));
+    __asm__("cvtdq2pd %1, %0" : "=x"(r) : "m"(*reinterpret_cast<const Bytes8*>(p)));
     return r;
 }
 inline __m128d pairToDouble(const float* p) {
     __m128d r;
-    __asm__("cvtps2pd %1, %0" : "=x"(r) : "m"(*reinterpret_cast<const int64_t*>(p)));
+    __asm__("cvtps2pd %1, %0" : "=x"(r) : "m"(*reinterpret_cast<const Bytes8*>(p)));
     return r;
 }
 
