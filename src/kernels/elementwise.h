@@ -222,14 +222,21 @@ template <class T>
 inline __m128i splatBits(T v) {
     if constexpr (sizeof(T) == 1)
         return _mm_set1_epi8(static_cast<char>(v));
-    else
+    else if constexpr (sizeof(T) == 2)
         return _mm_set1_epi16(static_cast<short>(v));
+    else
+        return _mm_set1_epi32(static_cast<int>(v));
 }
 template <class T> inline __m128i sload(Arr<T> s, int i) { return sse::loadu(s.p + i); }
 template <class T> inline __m128i sload(Bcast<T> s, int) { return splatBits(s.v); }
-inline __m128i sload(BcastPair<T16s> s, int) {
-    return _mm_set1_epi32(static_cast<int>(static_cast<uint32_t>(static_cast<uint16_t>(s.im)) << 16 |
-                                           static_cast<uint16_t>(s.re)));
+template <class T>
+inline __m128i sload(BcastPair<T> s, int) {
+    static_assert(sizeof(T) == 2 || sizeof(T) == 4, "complex parts of 16 or 32 bits");
+    if constexpr (sizeof(T) == 2)
+        return _mm_set1_epi32(static_cast<int>(static_cast<uint32_t>(static_cast<uint16_t>(s.im)) << 16 |
+                                               static_cast<uint16_t>(s.re)));
+    else
+        return _mm_setr_epi32(s.re, s.im, s.re, s.im);
 }
 
 template <class T>
@@ -270,6 +277,121 @@ constexpr bool saturatingForm() {
     return sumOrDiff && sameType && loads;
 }
 
+// ---- scaled sums and differences in lanes as wide as the elements ----------------
+//
+// For 1 <= sf and a sum or difference of two elements of one type, the
+// exact value s needs one bit more than a lane; it reaches the rounding as
+// floor(s / 2) and s wrapped to the lane (see sse::ShiftRound), so that no
+// lane is widened. floor(s / 2) without overflow, over two's complement
+// values (x ^ y, x & y, ~x & y read as integers of unbounded width):
+//   x + y = (x ^ y) + 2 (x & y)   gives floor((x + y) / 2) = (x & y) + ((x ^ y) >> 1);
+//   x - y = (x ^ y) - 2 (~x & y)  gives floor((x - y) / 2) = ((x ^ y) >> 1) - (~x & y);
+// with an arithmetic shift for signed elements. Both halves lie in the
+// element's range, so lane arithmetic that wraps gives them exactly. For
+// unsigned elements a sum's half is avg(x, y) - ((x ^ y) & 1) (avg rounds
+// up), and a difference below zero gives 0 whatever sf, so max(x - y, 0)
+// (the saturating difference, exact in a lane) is rounded directly.
+
+template <class T>
+struct SumRound {
+    using type = sse::ShiftRound<8 * static_cast<int>(sizeof(T)), std::is_signed<T>::value>;
+};
+
+template <class T, bool Diff>
+constexpr bool sumIsHalved() {
+    return std::is_signed<T>::value || !Diff;
+}
+
+// The rule's result lanes for x + y (Diff: x - y), 1 <= sf within covers().
+template <class T, bool Diff>
+inline __m128i scaledSumLanes(__m128i x, __m128i y, const typename SumRound<T>::type& r) {
+    if constexpr (std::is_unsigned<T>::value && Diff) {
+        // max(x - y, 0): the result 0 for every negative difference, and at
+        // most (2^Bits - 1) / 2^sf rounded otherwise, which fits.
+        const __m128i s = sizeof(T) == 1 ? _mm_subs_epu8(x, y) : _mm_subs_epu16(x, y);
+        const __m128i q = r.quotient(s);
+        return sizeof(T) == 1 ? _mm_sub_epi8(q, r.up(q, s)) : _mm_sub_epi16(q, r.up(q, s));
+    } else if constexpr (std::is_same<T, T8u>::value) {
+        // x + y <= 510: the result is at most 255.
+        const __m128i f = _mm_sub_epi8(_mm_avg_epu8(x, y), _mm_and_si128(_mm_xor_si128(x, y), r.one()));
+        const __m128i q = r.quotient(f);
+        return _mm_sub_epi8(q, r.up(q, _mm_add_epi8(x, y)));
+    } else if constexpr (std::is_same<T, T16u>::value) {
+        // x + y <= 131070: the result is at most 65535.
+        const __m128i f = _mm_sub_epi16(_mm_avg_epu16(x, y), _mm_and_si128(_mm_xor_si128(x, y), r.one()));
+        const __m128i q = r.quotient(f);
+        return _mm_sub_epi16(q, r.up(q, _mm_add_epi16(x, y)));
+    } else if constexpr (std::is_same<T, T16s>::value) {
+        if constexpr (Diff) {
+            // Only 65535 / 2 rounds past the range (to 32768): saturating.
+            const __m128i f = _mm_sub_epi16(_mm_srai_epi16(_mm_xor_si128(x, y), 1), _mm_andnot_si128(x, y));
+            const __m128i q = r.quotient(f);
+            return _mm_subs_epi16(q, r.up(q, _mm_sub_epi16(x, y)));
+        } else {
+            // -65536 <= x + y <= 65534: the result stays in range.
+            const __m128i f = _mm_add_epi16(_mm_and_si128(x, y), _mm_srai_epi16(_mm_xor_si128(x, y), 1));
+            const __m128i q = r.quotient(f);
+            return _mm_sub_epi16(q, r.up(q, _mm_add_epi16(x, y)));
+        }
+    } else {
+        static_assert(std::is_same<T, T32s>::value, "8u, 16u, 16s or 32s elements");
+        if constexpr (Diff) {
+            // Only (2^32 - 1) / 2 rounds past the range (to 2^31): q stays at
+            // the maximum there.
+            const __m128i f = _mm_sub_epi32(_mm_srai_epi32(_mm_xor_si128(x, y), 1), _mm_andnot_si128(x, y));
+            const __m128i q = r.quotient(f);
+            const __m128i up = _mm_andnot_si128(_mm_cmpeq_epi32(q, _mm_set1_epi32(INT32_MAX)), r.up(q, _mm_sub_epi32(x, y)));
+            return _mm_sub_epi32(q, up);
+        } else {
+            // -2^32 <= x + y <= 2^32 - 2: the result stays in range.
+            const __m128i f = _mm_add_epi32(_mm_and_si128(x, y), _mm_srai_epi32(_mm_xor_si128(x, y), 1));
+            const __m128i q = r.quotient(f);
+            return _mm_sub_epi32(q, r.up(q, _mm_add_epi32(x, y)));
+        }
+    }
+}
+
+template <class S>
+struct LaneSource : std::false_type {};
+template <class T>
+struct LaneSource<Arr<T>> : std::true_type {};
+template <class T>
+struct LaneSource<Bcast<T>> : std::true_type {};
+template <class T>
+struct LaneSource<BcastPair<T>> : std::integral_constant<bool, sizeof(T) == 2 || sizeof(T) == 4> {};
+
+template <class Op, class TD, class S1, class S2>
+constexpr bool scaledSumForm() {
+    using E1 = typename S1::Elem;
+    using E2 = typename S2::Elem;
+    constexpr bool sumOrDiff = std::is_same<Op, AddOp>::value || std::is_same<Op, SubOp>::value ||
+                               std::is_same<Op, SubRevOp>::value;
+    constexpr bool types = std::is_same<E1, TD>::value && std::is_same<E2, TD>::value &&
+                           (Narrow<TD>::value || std::is_same<TD, T32s>::value);
+    return sumOrDiff && types && LaneSource<S1>::value && LaneSource<S2>::value;
+}
+
+// d[i] = scaleSat(Op(a[i], b[i]), sf) for 1 <= sf within SumRound's covers().
+template <class Op, class T, class S1, class S2>
+inline void scaledSumLoop(S1 a, S2 b, T* d, int n, int sf) {
+    constexpr bool diff = !std::is_same<Op, AddOp>::value;
+    constexpr bool swap = std::is_same<Op, SubOp>::value;  // x2 - x1
+    constexpr int W = 16 / static_cast<int>(sizeof(T));
+    const typename SumRound<T>::type r(sf, sumIsHalved<T, diff>());
+    auto one = [&](int i) {
+        const __m128i x1 = sload(a, i), x2 = sload(b, i);
+        return swap ? scaledSumLanes<T, diff>(x2, x1, r) : scaledSumLanes<T, diff>(x1, x2, r);
+    };
+    int i = 0;
+    for (; i + 2 * W <= n; i += 2 * W) {
+        const __m128i r0 = one(i), r1 = one(i + W);
+        sse::storeu(d + i, r0);
+        sse::storeu(d + i + W, r1);
+    }
+    for (; i + W <= n; i += W) sse::storeu(d + i, one(i));
+    for (; i < n; ++i) d[i] = scaleSat<T>(Op::i(at(a, i), at(b, i)), sf);
+}
+
 template <class Op, class TD, class S1, class S2>
 inline void intLoopScalar(S1 a, S2 b, TD* d, int n, int sf) {
     for (int i = 0; i < n; ++i) d[i] = scaleSat<TD>(Op::i(at(a, i), at(b, i)), sf);
@@ -277,6 +399,9 @@ inline void intLoopScalar(S1 a, S2 b, TD* d, int n, int sf) {
 
 template <class Op, class TD, class S1, class S2>
 inline void intLoop(S1 a, S2 b, TD* d, int n, int sf) {
+    if constexpr (scaledSumForm<Op, TD, S1, S2>()) {
+        if (SumRound<TD>::type::covers(sf)) return scaledSumLoop<Op, TD>(a, b, d, n, sf);
+    }
     if constexpr (Op::kVecInt && std::is_same<TD, T32s>::value && DoubleLanes<S1>::value && DoubleLanes<S2>::value &&
                   Op::magBits(8 * sizeof(typename S1::Elem) - 1, 8 * sizeof(typename S2::Elem) - 1) <= 52) {
         if (sf >= -32 && sf <= 60) return int32ViaDouble<Op>(a, b, d, n, sf);

@@ -6,6 +6,7 @@
 
 #include "frame/detail/scale.h"
 #include "kernels/divide.h"
+#include "kernels/elementwise.h"
 #include "kernels/float_to_int.h"
 #include "kernels/sse/scale.h"
 #include "support/support.h"
@@ -131,6 +132,75 @@ TEST(FloatToIntKernels, MatchTwin) {
         kern::mulScaleRound16sScalar(x.data(), 1.5f, s.data(), n, sf);
         ASSERT_TRUE(vt::sameElements(v.data(), s.data(), n)) << "sf " << sf;
     }
+}
+
+// Sums and differences rounded in lanes of the element width: every scale
+// factor the lanes take, operands at the range ends and around multiples of
+// half the rounding step (so that the exact values fall on, beside and
+// between ties), all pairs of them, vector and constant second operands.
+template <class T>
+std::vector<T> sumOperands(int sf, uint64_t seed) {
+    using L = std::numeric_limits<T>;
+    std::vector<int64_t> v = {L::min(), L::min() + 1, L::max(), L::max() - 1, 0, 1, -1, 2, -2};
+    const int64_t h = int64_t(1) << (sf - 1);
+    for (int64_t k = -4; k <= 4; ++k)
+        for (int64_t e : {-1, 0, 1}) {
+            v.push_back(k * h + e);
+            v.push_back(L::max() - k * h + e);
+            v.push_back(int64_t(L::min()) + k * h + e);
+        }
+    vt::Rng rng(seed);
+    for (int i = 0; i < 40; ++i) v.push_back(rng.range(L::min(), L::max()));
+    std::vector<T> r;
+    for (int64_t x : v)
+        if (x >= L::min() && x <= L::max()) r.push_back(T(x));
+    if (sizeof(T) == 1)  // every value
+        for (int x = 0; x < 256; ++x) r.push_back(T(x));
+    return r;
+}
+
+template <class Op, class T>
+void scaledSumsAgree(int sf) {
+    const std::vector<T> ops = sumOperands<T>(sf, 50 + sf);
+    std::vector<T> x1, x2;
+    for (T p : ops)
+        for (T q : ops) {
+            x1.push_back(p);
+            x2.push_back(q);
+        }
+    const int n = int(x1.size());
+    std::vector<T> d(n);
+    kern::scaledSumLoop<Op>(kern::Arr<T>{x1.data()}, kern::Arr<T>{x2.data()}, d.data(), n, sf);
+    for (int i = 0; i < n; ++i)
+        ASSERT_EQ(int64_t(d[i]), int64_t(scaleSat<T>(Op::i(x1[i], x2[i]), sf)))
+            << int64_t(x1[i]) << ", " << int64_t(x2[i]) << " sf " << sf;
+    for (size_t k = 0; k < ops.size(); k += 7) {
+        kern::scaledSumLoop<Op>(kern::Arr<T>{x1.data()}, kern::Bcast<T>{ops[k]}, d.data(), n, sf);
+        for (int i = 0; i < n; ++i)
+            ASSERT_EQ(int64_t(d[i]), int64_t(scaleSat<T>(Op::i(x1[i], ops[k]), sf)))
+                << int64_t(x1[i]) << ", constant " << int64_t(ops[k]) << " sf " << sf;
+    }
+}
+
+template <class T>
+void scaledSumsAllFactors() {
+    using R = typename kern::SumRound<T>::type;
+    EXPECT_FALSE(R::covers(0));
+    for (int sf = 1; R::covers(sf); ++sf) {
+        scaledSumsAgree<kern::AddOp, T>(sf);
+        scaledSumsAgree<kern::SubOp, T>(sf);
+        scaledSumsAgree<kern::SubRevOp, T>(sf);
+    }
+}
+
+TEST(ScaledSumKernels, MatchScalarRule) {
+    scaledSumsAllFactors<T8u>();
+    scaledSumsAllFactors<T16u>();
+    scaledSumsAllFactors<T16s>();
+    scaledSumsAllFactors<T32s>();
+    EXPECT_TRUE(kern::SumRound<T8u>::type::covers(8));
+    EXPECT_TRUE(kern::SumRound<T16s>::type::covers(15));
+    EXPECT_TRUE(kern::SumRound<T32s>::type::covers(31));
 }
 
 }  // namespace
