@@ -203,4 +203,37 @@ TEST(ScaledSumKernels, MatchScalarRule) {
     EXPECT_TRUE(kern::SumRound<T32s>::type::covers(31));
 }
 
+// Products of 32-bit integers rounded in 64-bit lanes: factors at the range
+// ends, powers of two and their neighbours (exact products on and beside
+// every tie), random ones; every scale factor the lanes take.
+TEST(ProductKernels, Int32MatchesScalarRule) {
+    std::vector<int32_t> f = {INT32_MIN, INT32_MIN + 1, INT32_MAX, INT32_MAX - 1, 0, 1, -1, 3, -3, 46341, -46341};
+    for (int k = 1; k < 31; k += 3)
+        for (int32_t e : {-1, 0, 1}) {
+            f.push_back((int32_t(1) << k) + e);
+            f.push_back(-(int32_t(1) << k) + e);
+        }
+    vt::Rng rng(60);
+    for (int i = 0; i < 30; ++i) f.push_back(int32_t(rng.range(INT32_MIN, INT32_MAX)));
+    std::vector<int32_t> x1, x2;
+    for (int32_t p : f)
+        for (int32_t q : f) {
+            x1.push_back(p);
+            x2.push_back(q);
+        }
+    const int n = int(x1.size());
+    std::vector<int32_t> d(n);
+    for (int sf = 0; sf <= 62; ++sf) {
+        auto check = [&](auto b, const char* what) {
+            if (sf == 0) kern::product32Loop<false>(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
+            else kern::product32Loop<true>(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
+            for (int i = 0; i < n; ++i)
+                ASSERT_EQ(d[i], scaleSat<T32s>(int64_t(x1[i]) * kern::at(b, i), sf))
+                    << x1[i] << " * " << kern::at(b, i) << " sf " << sf << " " << what;
+        };
+        check(kern::Arr<T32s>{x2.data()}, "vector");
+        for (size_t k = 0; k < f.size(); k += 5) check(kern::Bcast<T32s>{f[k]}, "constant");
+    }
+}
+
 }  // namespace
