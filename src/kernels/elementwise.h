@@ -392,6 +392,73 @@ inline void scaledSumLoop(S1 a, S2 b, T* d, int n, int sf) {
     for (; i < n; ++i) d[i] = scaleSat<T>(Op::i(at(a, i), at(b, i)), sf);
 }
 
+// ---- scaled products of 8u, 16u and 16s without widening loads -------------------
+//
+// Exact products of two 8u values fit unsigned 16-bit lanes (<= 65025), those
+// of two 16-bit values 32-bit lanes, built from the low and high halves
+// (pmullw, pmulhw/pmulhuw) by one interleave. The rule's right shift is
+// sse::ShiftRound on the exact value (R < 2^15 for sf <= 15); the packs
+// saturate: every rounded product is below 2^31 (16-bit) or 2^15 (8u), so
+// the signed pack input reads it correctly. Without scaling, unsigned
+// products are first clamped to the destination's maximum.
+
+template <class T>
+struct ProductRound16 {
+    using type = sse::ShiftRound<sizeof(T) == 1 ? 16 : 32, std::is_same<T, T16s>::value>;
+};
+
+template <class Op, class TD, class S1, class S2>
+constexpr bool narrowProductForm() {
+    using E1 = typename S1::Elem;
+    using E2 = typename S2::Elem;
+    constexpr bool mul = std::is_same<Op, MulRealOp>::value || std::is_same<Op, MulUnsignedOp>::value;
+    constexpr bool plain = (std::is_same<S1, Arr<TD>>::value || std::is_same<S1, Bcast<TD>>::value) &&
+                           (std::is_same<S2, Arr<TD>>::value || std::is_same<S2, Bcast<TD>>::value);
+    return mul && Narrow<TD>::value && std::is_same<E1, TD>::value && std::is_same<E2, TD>::value && plain;
+}
+
+// One register of results (16 for 8u, 8 for 16-bit), sf = 0 without Round.
+template <class T, bool Round>
+inline __m128i productLanes(__m128i x, __m128i y, const typename ProductRound16<T>::type& r) {
+    if constexpr (std::is_same<T, T8u>::value) {
+        const __m128i zero = _mm_setzero_si128();
+        __m128i s0 = _mm_mullo_epi16(_mm_unpacklo_epi8(x, zero), _mm_unpacklo_epi8(y, zero));
+        __m128i s1 = _mm_mullo_epi16(_mm_unpackhi_epi8(x, zero), _mm_unpackhi_epi8(y, zero));
+        if constexpr (Round) {
+            const __m128i q0 = r.quotient(s0), q1 = r.quotient(s1);
+            s0 = _mm_sub_epi16(q0, r.up(q0, s0));
+            s1 = _mm_sub_epi16(q1, r.up(q1, s1));
+        } else {
+            s0 = _mm_min_epu16(s0, _mm_set1_epi16(255));
+            s1 = _mm_min_epu16(s1, _mm_set1_epi16(255));
+        }
+        return _mm_packus_epi16(s0, s1);
+    } else {
+        constexpr bool sgn = std::is_same<T, T16s>::value;
+        const __m128i lo = _mm_mullo_epi16(x, y), hi = sgn ? _mm_mulhi_epi16(x, y) : _mm_mulhi_epu16(x, y);
+        __m128i s0 = _mm_unpacklo_epi16(lo, hi), s1 = _mm_unpackhi_epi16(lo, hi);
+        if constexpr (Round) {
+            const __m128i q0 = r.quotient(s0), q1 = r.quotient(s1);
+            s0 = _mm_sub_epi32(q0, r.up(q0, s0));
+            s1 = _mm_sub_epi32(q1, r.up(q1, s1));
+        } else if constexpr (!sgn) {
+            s0 = _mm_min_epu32(s0, _mm_set1_epi32(65535));
+            s1 = _mm_min_epu32(s1, _mm_set1_epi32(65535));
+        }
+        return sgn ? _mm_packs_epi32(s0, s1) : _mm_packus_epi32(s0, s1);
+    }
+}
+
+// d[i] = scaleSat(a[i] * b[i], sf) for 0 <= sf <= 15 (sf = 0 without Round).
+template <bool Round, class T, class S1, class S2>
+inline void narrowProductLoop(S1 a, S2 b, T* d, int n, int sf) {
+    constexpr int W = 16 / static_cast<int>(sizeof(T));
+    const typename ProductRound16<T>::type r(Round ? sf : 1, false);
+    int i = 0;
+    for (; i + W <= n; i += W) sse::storeu(d + i, productLanes<T, Round>(sload(a, i), sload(b, i), r));
+    for (; i < n; ++i) d[i] = scaleSat<T>(int64_t(at(a, i)) * at(b, i), sf);
+}
+
 // ---- products of 32-bit integers in 64-bit lanes -----------------------------
 //
 // pmuldq gives the exact products s (|s| <= 2^62) of the even lanes. With
@@ -480,6 +547,10 @@ template <class Op, class TD, class S1, class S2>
 inline void intLoop(S1 a, S2 b, TD* d, int n, int sf) {
     if constexpr (scaledSumForm<Op, TD, S1, S2>()) {
         if (SumRound<TD>::type::covers(sf)) return scaledSumLoop<Op, TD>(a, b, d, n, sf);
+    }
+    if constexpr (narrowProductForm<Op, TD, S1, S2>()) {
+        if (sf == 0) return narrowProductLoop<false, TD>(a, b, d, n, sf);
+        if (sf >= 1 && sf <= 15) return narrowProductLoop<true, TD>(a, b, d, n, sf);
     }
     if constexpr (product32Form<Op, TD, S1, S2>()) {
         if (sf == 0) return product32Loop<false>(a, b, d, n, sf);

@@ -236,4 +236,47 @@ TEST(ProductKernels, Int32MatchesScalarRule) {
     }
 }
 
+// Products of 8u, 16u and 16s elements: range ends, powers of two and their
+// neighbours, random factors, all pairs, every scale factor 0..15.
+template <class T>
+void narrowProductsAgree() {
+    using L = std::numeric_limits<T>;
+    std::vector<int64_t> v = {L::min(), L::min() + 1, L::max(), L::max() - 1, 0, 1, -1, 3, -3, 181, -181};
+    for (int k = 1; k < 16; ++k)
+        for (int64_t e : {-1, 0, 1}) {
+            v.push_back((int64_t(1) << k) + e);
+            v.push_back(-(int64_t(1) << k) + e);
+        }
+    vt::Rng rng(70);
+    for (int i = 0; i < 30; ++i) v.push_back(rng.range(L::min(), L::max()));
+    std::vector<T> f;
+    for (int64_t x : v)
+        if (x >= L::min() && x <= L::max()) f.push_back(T(x));
+    std::vector<T> x1, x2;
+    for (T p : f)
+        for (T q : f) {
+            x1.push_back(p);
+            x2.push_back(q);
+        }
+    const int n = int(x1.size());
+    std::vector<T> d(n);
+    for (int sf = 0; sf <= 15; ++sf) {
+        auto check = [&](auto b, const char* what) {
+            if (sf == 0) kern::narrowProductLoop<false, T>(kern::Arr<T>{x1.data()}, b, d.data(), n, sf);
+            else kern::narrowProductLoop<true, T>(kern::Arr<T>{x1.data()}, b, d.data(), n, sf);
+            for (int i = 0; i < n; ++i)
+                ASSERT_EQ(int64_t(d[i]), int64_t(scaleSat<T>(int64_t(x1[i]) * kern::at(b, i), sf)))
+                    << int64_t(x1[i]) << " * " << int64_t(kern::at(b, i)) << " sf " << sf << " " << what;
+        };
+        check(kern::Arr<T>{x2.data()}, "vector");
+        for (size_t k = 0; k < f.size(); k += 5) check(kern::Bcast<T>{f[k]}, "constant");
+    }
+}
+
+TEST(ProductKernels, NarrowMatchScalarRule) {
+    narrowProductsAgree<T8u>();
+    narrowProductsAgree<T16u>();
+    narrowProductsAgree<T16s>();
+}
+
 }  // namespace
