@@ -100,12 +100,14 @@ inline __m128i scale32to16Lanes(__m128i s, int sf) {
 // dropped bits R = s mod 2^sf are low's bits below sf, since 2^sf divides
 // 2^Bits. The rule gives q + 1 exactly where R > 2^(sf-1), or R = 2^(sf-1)
 // with q odd: where R + (q & 1) > 2^(sf-1), tested as R > 2^(sf-1) - (q & 1)
-// so that nothing overflows. Every R, threshold and shifted value is held
-// unsigned below 2^(Bits-1) for signed compares, except in 8-bit lanes
-// (sf up to 8, R up to 255), which compare unsigned through max and equality:
-// R >= 2^(sf-1) + 1 - (q & 1). Lanes are Signed (arithmetic shift) or not
-// (logical; 8-bit lanes shift as 16-bit ones, then drop the bits that
-// crossed in from the neighbour). The caller adds up() to q and saturates.
+// so that nothing overflows. In 16- and 32-bit lanes sf < Bits, so R and
+// the threshold lie in [0, 2^(Bits-1)) and a signed compare orders them; in
+// 8-bit lanes (sf up to 8, R up to 255) the test is unsigned, through max
+// and equality: R >= 2^(sf-1) + 1 - (q & 1). Lanes are Signed (arithmetic
+// shift) or not (logical; 8-bit lanes shift as 16-bit ones, then drop the
+// bits that crossed in from the neighbour). The caller subtracts up() (all
+// ones, -1) from q and saturates where the sum or difference can pass the
+// range.
 template <int Bits, bool Signed>
 class ShiftRound {
     static_assert(Bits == 16 || Bits == 32 || (Bits == 8 && !Signed), "lane widths 8 (unsigned), 16, 32");
