@@ -134,6 +134,16 @@ SCALAR void scalarScaled(const T* a, const T* b, T* d, int n, int sf) {
     }
 }
 
+// The constant forms: a[i] + v, a[i] - v (Op 1), a[i] * v.
+template <class T, int Op>
+SCALAR void scalarScaledC(const T* a, T v, T* d, int n, int sf) {
+    const int64_t lo = std::numeric_limits<T>::min(), hi = std::numeric_limits<T>::max();
+    for (int i = 0; i < n; ++i) {
+        const int64_t s = Op == 0 ? int64_t(a[i]) + v : Op == 1 ? int64_t(a[i]) - v : int64_t(a[i]) * v;
+        d[i] = scaleRef<T>(s, sf, lo, hi);
+    }
+}
+
 template <class T>
 SCALAR void scalarDiv(const T* a, const T* b, T* d, int n, int sf) {
     const float scale = ldexpf(1.0f, -sf);
@@ -202,6 +212,16 @@ SCALED(Mul_8u_Sfs, T8u, veksMul_8u_Sfs(a, b, d, n, kSf), (scalarScaled<T8u, 2>(a
 SCALED(Add_32s_Sfs, T32s, veksAdd_32s_Sfs(a, b, d, n, kSf), (scalarScaled<T32s, 0>(a, b, d, n, kSf)))
 SCALED(Sub_32s_Sfs, T32s, veksSub_32s_Sfs(a, b, d, n, kSf), (scalarScaled<T32s, 1>(a, b, d, n, kSf)))
 SCALED(Mul_32s_Sfs, T32s, veksMul_32s_Sfs(a, b, d, n, kSf), (scalarScaled<T32s, 2>(a, b, d, n, kSf)))
+SCALED(Sub_16u_Sfs, T16u, veksSub_16u_Sfs(a, b, d, n, kSf), (scalarScaled<T16u, 1>(a, b, d, n, kSf)))
+SCALED(Sub_8u_Sfs, T8u, veksSub_8u_Sfs(a, b, d, n, kSf), (scalarScaled<T8u, 1>(a, b, d, n, kSf)))
+SCALED(AddC_16s_Sfs, T16s, veksAddC_16s_Sfs(a, b[0], d, n, kSf), (scalarScaledC<T16s, 0>(a, b[0], d, n, kSf)))
+SCALED(SubC_16u_Sfs, T16u, veksSubC_16u_Sfs(a, b[0], d, n, kSf), (scalarScaledC<T16u, 1>(a, b[0], d, n, kSf)))
+SCALED(AddC_8u_Sfs, T8u, veksAddC_8u_Sfs(a, b[0], d, n, kSf), (scalarScaledC<T8u, 0>(a, b[0], d, n, kSf)))
+SCALED(MulC_16u_Sfs, T16u, veksMulC_16u_Sfs(a, b[0], d, n, kSf), (scalarScaledC<T16u, 2>(a, b[0], d, n, kSf)))
+SCALED(MulC_8u_Sfs, T8u, veksMulC_8u_Sfs(a, b[0], d, n, kSf), (scalarScaledC<T8u, 2>(a, b[0], d, n, kSf)))
+SCALED(AddC_32s_Sfs, T32s, veksAddC_32s_Sfs(a, b[0], d, n, kSf), (scalarScaledC<T32s, 0>(a, b[0], d, n, kSf)))
+SCALED(SubC_32s_Sfs, T32s, veksSubC_32s_Sfs(a, b[0], d, n, kSf), (scalarScaledC<T32s, 1>(a, b[0], d, n, kSf)))
+SCALED(MulC_32s_Sfs, T32s, veksMulC_32s_Sfs(a, b[0], d, n, kSf), (scalarScaledC<T32s, 2>(a, b[0], d, n, kSf)))
 SCALED(Div_16s_Sfs, T16s, veksDiv_16s_Sfs(a, b, d, n, kSf), (scalarDiv<T16s>(a, b, d, n, kSf)))
 
 // memcpy of the same traffic as a two-source operation over kLong elements

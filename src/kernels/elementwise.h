@@ -222,14 +222,21 @@ template <class T>
 inline __m128i splatBits(T v) {
     if constexpr (sizeof(T) == 1)
         return _mm_set1_epi8(static_cast<char>(v));
-    else
+    else if constexpr (sizeof(T) == 2)
         return _mm_set1_epi16(static_cast<short>(v));
+    else
+        return _mm_set1_epi32(static_cast<int>(v));
 }
 template <class T> inline __m128i sload(Arr<T> s, int i) { return sse::loadu(s.p + i); }
 template <class T> inline __m128i sload(Bcast<T> s, int) { return splatBits(s.v); }
-inline __m128i sload(BcastPair<T16s> s, int) {
-    return _mm_set1_epi32(static_cast<int>(static_cast<uint32_t>(static_cast<uint16_t>(s.im)) << 16 |
-                                           static_cast<uint16_t>(s.re)));
+template <class T>
+inline __m128i sload(BcastPair<T> s, int) {
+    static_assert(sizeof(T) == 2 || sizeof(T) == 4, "complex parts of 16 or 32 bits");
+    if constexpr (sizeof(T) == 2)
+        return _mm_set1_epi32(static_cast<int>(static_cast<uint32_t>(static_cast<uint16_t>(s.im)) << 16 |
+                                               static_cast<uint16_t>(s.re)));
+    else
+        return _mm_setr_epi32(s.re, s.im, s.re, s.im);
 }
 
 template <class T>
@@ -270,6 +277,267 @@ constexpr bool saturatingForm() {
     return sumOrDiff && sameType && loads;
 }
 
+// ---- scaled sums and differences in lanes as wide as the elements ----------------
+//
+// For 1 <= sf and a sum or difference of two elements of one type, the
+// exact value s needs one bit more than a lane; it reaches the rounding as
+// floor(s / 2) and s wrapped to the lane (see sse::ShiftRound), so that no
+// lane is widened. floor(s / 2) without overflow, over two's complement
+// values (x ^ y, x & y, ~x & y read as integers of unbounded width):
+//   x + y = (x ^ y) + 2 (x & y)   gives floor((x + y) / 2) = (x & y) + ((x ^ y) >> 1);
+//   x - y = (x ^ y) - 2 (~x & y)  gives floor((x - y) / 2) = ((x ^ y) >> 1) - (~x & y);
+// with an arithmetic shift for signed elements. Both halves lie in the
+// element's range, so lane arithmetic that wraps gives them exactly. For
+// unsigned elements a sum's half is avg(x, y) - ((x ^ y) & 1) (avg rounds
+// up), and a difference below zero gives 0 whatever sf, so max(x - y, 0)
+// (the saturating difference, exact in a lane) is rounded directly.
+
+template <class T>
+struct SumRound {
+    using type = sse::ShiftRound<8 * static_cast<int>(sizeof(T)), std::is_signed<T>::value>;
+};
+
+template <class T, bool Diff>
+constexpr bool sumIsHalved() {
+    return std::is_signed<T>::value || !Diff;
+}
+
+// The rule's result lanes for x + y (Diff: x - y), 1 <= sf within covers().
+template <class T, bool Diff>
+inline __m128i scaledSumLanes(__m128i x, __m128i y, const typename SumRound<T>::type& r) {
+    if constexpr (std::is_unsigned<T>::value && Diff) {
+        // max(x - y, 0): the result 0 for every negative difference, and at
+        // most (2^Bits - 1) / 2^sf rounded otherwise, which fits.
+        const __m128i s = sizeof(T) == 1 ? _mm_subs_epu8(x, y) : _mm_subs_epu16(x, y);
+        const __m128i q = r.quotient(s);
+        return sizeof(T) == 1 ? _mm_sub_epi8(q, r.up(q, s)) : _mm_sub_epi16(q, r.up(q, s));
+    } else if constexpr (std::is_same<T, T8u>::value) {
+        // x + y <= 510: the result is at most 255.
+        const __m128i f = _mm_sub_epi8(_mm_avg_epu8(x, y), _mm_and_si128(_mm_xor_si128(x, y), r.one()));
+        const __m128i q = r.quotient(f);
+        return _mm_sub_epi8(q, r.up(q, _mm_add_epi8(x, y)));
+    } else if constexpr (std::is_same<T, T16u>::value) {
+        // x + y <= 131070: the result is at most 65535.
+        const __m128i f = _mm_sub_epi16(_mm_avg_epu16(x, y), _mm_and_si128(_mm_xor_si128(x, y), r.one()));
+        const __m128i q = r.quotient(f);
+        return _mm_sub_epi16(q, r.up(q, _mm_add_epi16(x, y)));
+    } else if constexpr (std::is_same<T, T16s>::value) {
+        if constexpr (Diff) {
+            // Only 65535 / 2 rounds past the range (to 32768): saturating.
+            const __m128i f = _mm_sub_epi16(_mm_srai_epi16(_mm_xor_si128(x, y), 1), _mm_andnot_si128(x, y));
+            const __m128i q = r.quotient(f);
+            return _mm_subs_epi16(q, r.up(q, _mm_sub_epi16(x, y)));
+        } else {
+            // -65536 <= x + y <= 65534: the result stays in range.
+            const __m128i f = _mm_add_epi16(_mm_and_si128(x, y), _mm_srai_epi16(_mm_xor_si128(x, y), 1));
+            const __m128i q = r.quotient(f);
+            return _mm_sub_epi16(q, r.up(q, _mm_add_epi16(x, y)));
+        }
+    } else {
+        static_assert(std::is_same<T, T32s>::value, "8u, 16u, 16s or 32s elements");
+        if constexpr (Diff) {
+            // Only (2^32 - 1) / 2 rounds past the range (to 2^31): q stays at
+            // the maximum there.
+            const __m128i f = _mm_sub_epi32(_mm_srai_epi32(_mm_xor_si128(x, y), 1), _mm_andnot_si128(x, y));
+            const __m128i q = r.quotient(f);
+            const __m128i up = _mm_andnot_si128(_mm_cmpeq_epi32(q, _mm_set1_epi32(INT32_MAX)), r.up(q, _mm_sub_epi32(x, y)));
+            return _mm_sub_epi32(q, up);
+        } else {
+            // -2^32 <= x + y <= 2^32 - 2: the result stays in range.
+            const __m128i f = _mm_add_epi32(_mm_and_si128(x, y), _mm_srai_epi32(_mm_xor_si128(x, y), 1));
+            const __m128i q = r.quotient(f);
+            return _mm_sub_epi32(q, r.up(q, _mm_add_epi32(x, y)));
+        }
+    }
+}
+
+template <class S>
+struct LaneSource : std::false_type {};
+template <class T>
+struct LaneSource<Arr<T>> : std::true_type {};
+template <class T>
+struct LaneSource<Bcast<T>> : std::true_type {};
+template <class T>
+struct LaneSource<BcastPair<T>> : std::integral_constant<bool, sizeof(T) == 2 || sizeof(T) == 4> {};
+
+template <class Op, class TD, class S1, class S2>
+constexpr bool scaledSumForm() {
+    using E1 = typename S1::Elem;
+    using E2 = typename S2::Elem;
+    constexpr bool sumOrDiff = std::is_same<Op, AddOp>::value || std::is_same<Op, SubOp>::value ||
+                               std::is_same<Op, SubRevOp>::value;
+    constexpr bool types = std::is_same<E1, TD>::value && std::is_same<E2, TD>::value &&
+                           (Narrow<TD>::value || std::is_same<TD, T32s>::value);
+    return sumOrDiff && types && LaneSource<S1>::value && LaneSource<S2>::value;
+}
+
+// d[i] = scaleSat(Op(a[i], b[i]), sf) for 1 <= sf within SumRound's covers().
+template <class Op, class T, class S1, class S2>
+inline void scaledSumLoop(S1 a, S2 b, T* d, int n, int sf) {
+    constexpr bool diff = !std::is_same<Op, AddOp>::value;
+    constexpr bool swap = std::is_same<Op, SubOp>::value;  // x2 - x1
+    constexpr int W = 16 / static_cast<int>(sizeof(T));
+    const typename SumRound<T>::type r(sf, sumIsHalved<T, diff>());
+    auto one = [&](int i) {
+        const __m128i x1 = sload(a, i), x2 = sload(b, i);
+        return swap ? scaledSumLanes<T, diff>(x2, x1, r) : scaledSumLanes<T, diff>(x1, x2, r);
+    };
+    int i = 0;
+    for (; i + 2 * W <= n; i += 2 * W) {
+        const __m128i r0 = one(i), r1 = one(i + W);
+        sse::storeu(d + i, r0);
+        sse::storeu(d + i + W, r1);
+    }
+    for (; i + W <= n; i += W) sse::storeu(d + i, one(i));
+    for (; i < n; ++i) d[i] = scaleSat<T>(Op::i(at(a, i), at(b, i)), sf);
+}
+
+// ---- scaled products of 8u, 16u and 16s without widening loads -------------------
+//
+// Exact products of two 8u values fit unsigned 16-bit lanes (<= 65025), those
+// of two 16-bit values 32-bit lanes, built from the low and high halves
+// (pmullw, pmulhw/pmulhuw) by one interleave. The rule's right shift is
+// sse::ShiftRound on the exact value (R < 2^15 for sf <= 15); the packs
+// saturate: every rounded product is below 2^31 (16-bit) or 2^15 (8u), so
+// the signed pack input reads it correctly. Without scaling, unsigned
+// products are first clamped to the destination's maximum.
+
+template <class T>
+struct ProductRound16 {
+    using type = sse::ShiftRound<sizeof(T) == 1 ? 16 : 32, std::is_same<T, T16s>::value>;
+};
+
+template <class Op, class TD, class S1, class S2>
+constexpr bool narrowProductForm() {
+    using E1 = typename S1::Elem;
+    using E2 = typename S2::Elem;
+    constexpr bool mul = std::is_same<Op, MulRealOp>::value || std::is_same<Op, MulUnsignedOp>::value;
+    constexpr bool plain = (std::is_same<S1, Arr<TD>>::value || std::is_same<S1, Bcast<TD>>::value) &&
+                           (std::is_same<S2, Arr<TD>>::value || std::is_same<S2, Bcast<TD>>::value);
+    return mul && Narrow<TD>::value && std::is_same<E1, TD>::value && std::is_same<E2, TD>::value && plain;
+}
+
+// One register of results (16 for 8u, 8 for 16-bit), sf = 0 without Round.
+template <class T, bool Round>
+inline __m128i productLanes(__m128i x, __m128i y, const typename ProductRound16<T>::type& r) {
+    if constexpr (std::is_same<T, T8u>::value) {
+        const __m128i zero = _mm_setzero_si128();
+        __m128i s0 = _mm_mullo_epi16(_mm_unpacklo_epi8(x, zero), _mm_unpacklo_epi8(y, zero));
+        __m128i s1 = _mm_mullo_epi16(_mm_unpackhi_epi8(x, zero), _mm_unpackhi_epi8(y, zero));
+        if constexpr (Round) {
+            const __m128i q0 = r.quotient(s0), q1 = r.quotient(s1);
+            s0 = _mm_sub_epi16(q0, r.up(q0, s0));
+            s1 = _mm_sub_epi16(q1, r.up(q1, s1));
+        } else {
+            s0 = _mm_min_epu16(s0, _mm_set1_epi16(255));
+            s1 = _mm_min_epu16(s1, _mm_set1_epi16(255));
+        }
+        return _mm_packus_epi16(s0, s1);
+    } else {
+        constexpr bool sgn = std::is_same<T, T16s>::value;
+        const __m128i lo = _mm_mullo_epi16(x, y), hi = sgn ? _mm_mulhi_epi16(x, y) : _mm_mulhi_epu16(x, y);
+        __m128i s0 = _mm_unpacklo_epi16(lo, hi), s1 = _mm_unpackhi_epi16(lo, hi);
+        if constexpr (Round) {
+            const __m128i q0 = r.quotient(s0), q1 = r.quotient(s1);
+            s0 = _mm_sub_epi32(q0, r.up(q0, s0));
+            s1 = _mm_sub_epi32(q1, r.up(q1, s1));
+        } else if constexpr (!sgn) {
+            s0 = _mm_min_epu32(s0, _mm_set1_epi32(65535));
+            s1 = _mm_min_epu32(s1, _mm_set1_epi32(65535));
+        }
+        return sgn ? _mm_packs_epi32(s0, s1) : _mm_packus_epi32(s0, s1);
+    }
+}
+
+// d[i] = scaleSat(a[i] * b[i], sf) for 0 <= sf <= 15 (sf = 0 without Round).
+template <bool Round, class T, class S1, class S2>
+inline void narrowProductLoop(S1 a, S2 b, T* d, int n, int sf) {
+    constexpr int W = 16 / static_cast<int>(sizeof(T));
+    const typename ProductRound16<T>::type r(Round ? sf : 1, false);
+    int i = 0;
+    for (; i + W <= n; i += W) sse::storeu(d + i, productLanes<T, Round>(sload(a, i), sload(b, i), r));
+    for (; i < n; ++i) d[i] = scaleSat<T>(int64_t(at(a, i)) * at(b, i), sf);
+}
+
+// ---- products of 32-bit integers in 64-bit lanes -----------------------------
+//
+// pmuldq gives the exact products s (|s| <= 2^62) of the even lanes. With
+// u = s + 2^63 (the sign bit flipped) u is non-negative, so a logical shift
+// floors: floor(t / 2^sf) = ((t + 2^63) >> sf) - 2^(63-sf) for sf <= 63.
+// Ties to even: the rule's result is floor((s + 2^(sf-1) - 1 + odd) / 2^sf)
+// with odd = bit sf of s, which is bit sf of u (sf < 63); u + 2^(sf-1) stays
+// below 3 * 2^62 + 2^61 < 2^64 for sf <= 62, so nothing wraps. The 64-bit
+// result fits 32 bits exactly where its high half is the sign of its low
+// half; else it saturates by the sign of the high half.
+template <bool Round>
+class ProductRound {
+public:
+    explicit ProductRound(int sf)
+        : cnt_(_mm_cvtsi32_si128(sf)),
+          hm1_(_mm_set1_epi64x(Round ? (int64_t(1) << (sf - 1)) - 1 : 0)),
+          bit_(_mm_set1_epi64x(int64_t(1) << sf)),
+          flip_(_mm_set1_epi64x(INT64_MIN)),
+          unbias_(_mm_set1_epi64x(Round ? int64_t(1) << (63 - sf) : 0)) {}
+
+    // The rounded quotients of two exact products in 64-bit lanes.
+    __m128i apply(__m128i s) const {
+        if constexpr (!Round) {
+            return s;
+        } else {
+            const __m128i u = _mm_xor_si128(s, flip_);
+            const __m128i odd = _mm_cmpeq_epi64(_mm_and_si128(u, bit_), bit_);  // -1 where odd
+            const __m128i t = _mm_sub_epi64(_mm_add_epi64(u, hm1_), odd);
+            return _mm_sub_epi64(_mm_srl_epi64(t, cnt_), unbias_);
+        }
+    }
+
+private:
+    __m128i cnt_, hm1_, bit_, flip_, unbias_;
+};
+
+// Four 64-bit results (elements 0 and 2 in ev, 1 and 3 in od) saturated
+// to 32 bits, in element order.
+inline __m128i saturate64to32(__m128i ev, __m128i od) {
+    const __m128i lows = _mm_blend_epi16(ev, _mm_slli_epi64(od, 32), 0xcc);
+    const __m128i highs = _mm_blend_epi16(_mm_srli_epi64(ev, 32), od, 0xcc);
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i fits = _mm_cmpeq_epi32(highs, _mm_cmpgt_epi32(zero, lows));
+    const __m128i sat = _mm_xor_si128(_mm_cmpgt_epi32(zero, highs), _mm_set1_epi32(INT32_MAX));
+    return _mm_blendv_epi8(sat, lows, fits);
+}
+
+// The odd elements of a source moved to the even lanes (a repeated value is
+// there already).
+template <class S>
+inline __m128i oddLanes(__m128i v) {
+    if constexpr (Repeats<S>::value) return v;
+    else return _mm_srli_epi64(v, 32);
+}
+
+template <class Op, class TD, class S1, class S2>
+constexpr bool product32Form() {
+    using E1 = typename S1::Elem;
+    using E2 = typename S2::Elem;
+    constexpr bool plain = (std::is_same<S1, Arr<T32s>>::value || std::is_same<S1, Bcast<T32s>>::value) &&
+                           (std::is_same<S2, Arr<T32s>>::value || std::is_same<S2, Bcast<T32s>>::value);
+    return std::is_same<Op, MulRealOp>::value && std::is_same<TD, T32s>::value && std::is_same<E1, T32s>::value &&
+           std::is_same<E2, T32s>::value && plain;
+}
+
+// d[i] = scaleSat(a[i] * b[i], sf) for 0 <= sf <= 62 (sf = 0 without Round).
+template <bool Round, class S1, class S2>
+inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
+    const ProductRound<Round> r(sf);
+    int i = 0;
+    for (; i + 4 <= n; i += 4) {
+        const __m128i x = sload(a, i), y = sload(b, i);
+        const __m128i ev = r.apply(_mm_mul_epi32(x, y));
+        const __m128i od = r.apply(_mm_mul_epi32(oddLanes<S1>(x), oddLanes<S2>(y)));
+        sse::storeu(d + i, saturate64to32(ev, od));
+    }
+    for (; i < n; ++i) d[i] = scaleSat<T32s>(int64_t(at(a, i)) * at(b, i), sf);
+}
+
 template <class Op, class TD, class S1, class S2>
 inline void intLoopScalar(S1 a, S2 b, TD* d, int n, int sf) {
     for (int i = 0; i < n; ++i) d[i] = scaleSat<TD>(Op::i(at(a, i), at(b, i)), sf);
@@ -277,6 +545,17 @@ inline void intLoopScalar(S1 a, S2 b, TD* d, int n, int sf) {
 
 template <class Op, class TD, class S1, class S2>
 inline void intLoop(S1 a, S2 b, TD* d, int n, int sf) {
+    if constexpr (scaledSumForm<Op, TD, S1, S2>()) {
+        if (SumRound<TD>::type::covers(sf)) return scaledSumLoop<Op, TD>(a, b, d, n, sf);
+    }
+    if constexpr (narrowProductForm<Op, TD, S1, S2>()) {
+        if (sf == 0) return narrowProductLoop<false, TD>(a, b, d, n, sf);
+        if (sf >= 1 && sf <= 15) return narrowProductLoop<true, TD>(a, b, d, n, sf);
+    }
+    if constexpr (product32Form<Op, TD, S1, S2>()) {
+        if (sf == 0) return product32Loop<false>(a, b, d, n, sf);
+        if (sf >= 1 && sf <= 62) return product32Loop<true>(a, b, d, n, sf);
+    }
     if constexpr (Op::kVecInt && std::is_same<TD, T32s>::value && DoubleLanes<S1>::value && DoubleLanes<S2>::value &&
                   Op::magBits(8 * sizeof(typename S1::Elem) - 1, 8 * sizeof(typename S2::Elem) - 1) <= 52) {
         if (sf >= -32 && sf <= 60) return int32ViaDouble<Op>(a, b, d, n, sf);

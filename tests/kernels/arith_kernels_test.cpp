@@ -6,6 +6,7 @@
 
 #include "frame/detail/scale.h"
 #include "kernels/divide.h"
+#include "kernels/elementwise.h"
 #include "kernels/float_to_int.h"
 #include "kernels/sse/scale.h"
 #include "support/support.h"
@@ -131,6 +132,151 @@ TEST(FloatToIntKernels, MatchTwin) {
         kern::mulScaleRound16sScalar(x.data(), 1.5f, s.data(), n, sf);
         ASSERT_TRUE(vt::sameElements(v.data(), s.data(), n)) << "sf " << sf;
     }
+}
+
+// Sums and differences rounded in lanes of the element width: every scale
+// factor the lanes take, operands at the range ends and around multiples of
+// half the rounding step (so that the exact values fall on, beside and
+// between ties), all pairs of them, vector and constant second operands.
+template <class T>
+std::vector<T> sumOperands(int sf, uint64_t seed) {
+    using L = std::numeric_limits<T>;
+    std::vector<int64_t> v = {L::min(), L::min() + 1, L::max(), L::max() - 1, 0, 1, -1, 2, -2};
+    const int64_t h = int64_t(1) << (sf - 1);
+    for (int64_t k = -4; k <= 4; ++k)
+        for (int64_t e : {-1, 0, 1}) {
+            v.push_back(k * h + e);
+            v.push_back(L::max() - k * h + e);
+            v.push_back(int64_t(L::min()) + k * h + e);
+        }
+    vt::Rng rng(seed);
+    for (int i = 0; i < 40; ++i) v.push_back(rng.range(L::min(), L::max()));
+    std::vector<T> r;
+    for (int64_t x : v)
+        if (x >= L::min() && x <= L::max()) r.push_back(T(x));
+    if (sizeof(T) == 1)  // every value
+        for (int x = 0; x < 256; ++x) r.push_back(T(x));
+    return r;
+}
+
+template <class Op, class T>
+void scaledSumsAgree(int sf) {
+    const std::vector<T> ops = sumOperands<T>(sf, 50 + sf);
+    std::vector<T> x1, x2;
+    for (T p : ops)
+        for (T q : ops) {
+            x1.push_back(p);
+            x2.push_back(q);
+        }
+    const int n = int(x1.size());
+    std::vector<T> d(n);
+    kern::scaledSumLoop<Op>(kern::Arr<T>{x1.data()}, kern::Arr<T>{x2.data()}, d.data(), n, sf);
+    for (int i = 0; i < n; ++i)
+        ASSERT_EQ(int64_t(d[i]), int64_t(scaleSat<T>(Op::i(x1[i], x2[i]), sf)))
+            << int64_t(x1[i]) << ", " << int64_t(x2[i]) << " sf " << sf;
+    for (size_t k = 0; k < ops.size(); k += 7) {
+        kern::scaledSumLoop<Op>(kern::Arr<T>{x1.data()}, kern::Bcast<T>{ops[k]}, d.data(), n, sf);
+        for (int i = 0; i < n; ++i)
+            ASSERT_EQ(int64_t(d[i]), int64_t(scaleSat<T>(Op::i(x1[i], ops[k]), sf)))
+                << int64_t(x1[i]) << ", constant " << int64_t(ops[k]) << " sf " << sf;
+    }
+}
+
+template <class T>
+void scaledSumsAllFactors() {
+    using R = typename kern::SumRound<T>::type;
+    EXPECT_FALSE(R::covers(0));
+    for (int sf = 1; R::covers(sf); ++sf) {
+        scaledSumsAgree<kern::AddOp, T>(sf);
+        scaledSumsAgree<kern::SubOp, T>(sf);
+        scaledSumsAgree<kern::SubRevOp, T>(sf);
+    }
+}
+
+TEST(ScaledSumKernels, MatchScalarRule) {
+    scaledSumsAllFactors<T8u>();
+    scaledSumsAllFactors<T16u>();
+    scaledSumsAllFactors<T16s>();
+    scaledSumsAllFactors<T32s>();
+    EXPECT_TRUE(kern::SumRound<T8u>::type::covers(8));
+    EXPECT_TRUE(kern::SumRound<T16s>::type::covers(15));
+    EXPECT_TRUE(kern::SumRound<T32s>::type::covers(31));
+}
+
+// Products of 32-bit integers rounded in 64-bit lanes: factors at the range
+// ends, powers of two and their neighbours (exact products on and beside
+// every tie), random ones; every scale factor the lanes take.
+TEST(ProductKernels, Int32MatchesScalarRule) {
+    std::vector<int32_t> f = {INT32_MIN, INT32_MIN + 1, INT32_MAX, INT32_MAX - 1, 0, 1, -1, 3, -3, 46341, -46341};
+    for (int k = 1; k < 31; k += 3)
+        for (int32_t e : {-1, 0, 1}) {
+            f.push_back((int32_t(1) << k) + e);
+            f.push_back(-(int32_t(1) << k) + e);
+        }
+    vt::Rng rng(60);
+    for (int i = 0; i < 30; ++i) f.push_back(int32_t(rng.range(INT32_MIN, INT32_MAX)));
+    std::vector<int32_t> x1, x2;
+    for (int32_t p : f)
+        for (int32_t q : f) {
+            x1.push_back(p);
+            x2.push_back(q);
+        }
+    const int n = int(x1.size());
+    std::vector<int32_t> d(n);
+    for (int sf = 0; sf <= 62; ++sf) {
+        auto check = [&](auto b, const char* what) {
+            if (sf == 0) kern::product32Loop<false>(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
+            else kern::product32Loop<true>(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
+            for (int i = 0; i < n; ++i)
+                ASSERT_EQ(d[i], scaleSat<T32s>(int64_t(x1[i]) * kern::at(b, i), sf))
+                    << x1[i] << " * " << kern::at(b, i) << " sf " << sf << " " << what;
+        };
+        check(kern::Arr<T32s>{x2.data()}, "vector");
+        for (size_t k = 0; k < f.size(); k += 5) check(kern::Bcast<T32s>{f[k]}, "constant");
+    }
+}
+
+// Products of 8u, 16u and 16s elements: range ends, powers of two and their
+// neighbours, random factors, all pairs, every scale factor 0..15.
+template <class T>
+void narrowProductsAgree() {
+    using L = std::numeric_limits<T>;
+    std::vector<int64_t> v = {L::min(), L::min() + 1, L::max(), L::max() - 1, 0, 1, -1, 3, -3, 181, -181};
+    for (int k = 1; k < 16; ++k)
+        for (int64_t e : {-1, 0, 1}) {
+            v.push_back((int64_t(1) << k) + e);
+            v.push_back(-(int64_t(1) << k) + e);
+        }
+    vt::Rng rng(70);
+    for (int i = 0; i < 30; ++i) v.push_back(rng.range(L::min(), L::max()));
+    std::vector<T> f;
+    for (int64_t x : v)
+        if (x >= L::min() && x <= L::max()) f.push_back(T(x));
+    std::vector<T> x1, x2;
+    for (T p : f)
+        for (T q : f) {
+            x1.push_back(p);
+            x2.push_back(q);
+        }
+    const int n = int(x1.size());
+    std::vector<T> d(n);
+    for (int sf = 0; sf <= 15; ++sf) {
+        auto check = [&](auto b, const char* what) {
+            if (sf == 0) kern::narrowProductLoop<false, T>(kern::Arr<T>{x1.data()}, b, d.data(), n, sf);
+            else kern::narrowProductLoop<true, T>(kern::Arr<T>{x1.data()}, b, d.data(), n, sf);
+            for (int i = 0; i < n; ++i)
+                ASSERT_EQ(int64_t(d[i]), int64_t(scaleSat<T>(int64_t(x1[i]) * kern::at(b, i), sf)))
+                    << int64_t(x1[i]) << " * " << int64_t(kern::at(b, i)) << " sf " << sf << " " << what;
+        };
+        check(kern::Arr<T>{x2.data()}, "vector");
+        for (size_t k = 0; k < f.size(); k += 5) check(kern::Bcast<T>{f[k]}, "constant");
+    }
+}
+
+TEST(ProductKernels, NarrowMatchScalarRule) {
+    narrowProductsAgree<T8u>();
+    narrowProductsAgree<T16u>();
+    narrowProductsAgree<T16s>();
 }
 
 }  // namespace

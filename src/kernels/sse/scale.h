@@ -91,5 +91,67 @@ inline __m128i scale32to16Lanes(__m128i s, int sf) {
     return s;
 }
 
+// The rule's right shift (ties to even) in lanes as wide as the elements,
+// for sums and differences whose exact value s needs one bit more than a
+// lane. Two lane values stand for s:
+//   v   = floor(s / 2) ("halved", formed without overflow) or s itself;
+//   low = s wrapped to the lane width (the plain lane sum or difference).
+// Then q = floor(s / 2^sf) = v >> (sf - 1) (halved) or v >> sf, and the
+// dropped bits R = s mod 2^sf are low's bits below sf, since 2^sf divides
+// 2^Bits. The rule gives q + 1 exactly where R > 2^(sf-1), or R = 2^(sf-1)
+// with q odd: where R + (q & 1) > 2^(sf-1), tested as R > 2^(sf-1) - (q & 1)
+// so that nothing overflows. In 16- and 32-bit lanes sf < Bits, so R and
+// the threshold lie in [0, 2^(Bits-1)) and a signed compare orders them; in
+// 8-bit lanes (sf up to 8, R up to 255) the test is unsigned, through max
+// and equality: R >= 2^(sf-1) + 1 - (q & 1). Lanes are Signed (arithmetic
+// shift) or not (logical; 8-bit lanes shift as 16-bit ones, then drop the
+// bits that crossed in from the neighbour). The caller subtracts up() (all
+// ones, -1) from q and saturates where the sum or difference can pass the
+// range.
+template <int Bits, bool Signed>
+class ShiftRound {
+    static_assert(Bits == 16 || Bits == 32 || (Bits == 8 && !Signed), "lane widths 8 (unsigned), 16, 32");
+
+public:
+    static bool covers(int sf) { return sf >= 1 && sf <= (Bits == 8 ? 8 : Bits - 1); }
+
+    ShiftRound(int sf, bool halved)
+        : cnt_(_mm_cvtsi32_si128(halved ? sf - 1 : sf)),
+          mask_(splat((1u << sf) - 1u)),
+          thr_(splat((1u << (sf - 1)) + (Bits == 8 ? 1u : 0u))),
+          one_(splat(1)),
+          keep_(splat(0xffu >> (halved ? sf - 1 : sf))) {}
+
+    __m128i one() const { return one_; }
+
+    // v >> (sf - 1) or v >> sf
+    __m128i quotient(__m128i v) const {
+        if constexpr (Bits == 8) return _mm_and_si128(_mm_srl_epi16(v, cnt_), keep_);
+        else if constexpr (Bits == 16) return Signed ? _mm_sra_epi16(v, cnt_) : _mm_srl_epi16(v, cnt_);
+        else return Signed ? _mm_sra_epi32(v, cnt_) : _mm_srl_epi32(v, cnt_);
+    }
+
+    // All ones in the lanes whose quotient q rounds up, else zero.
+    __m128i up(__m128i q, __m128i low) const {
+        const __m128i r = _mm_and_si128(low, mask_);
+        if constexpr (Bits == 8) {
+            const __m128i t = _mm_sub_epi8(thr_, _mm_and_si128(q, one_));
+            return _mm_cmpeq_epi8(_mm_max_epu8(r, t), r);
+        } else if constexpr (Bits == 16) {
+            return _mm_cmpgt_epi16(r, _mm_sub_epi16(thr_, _mm_and_si128(q, one_)));
+        } else {
+            return _mm_cmpgt_epi32(r, _mm_sub_epi32(thr_, _mm_and_si128(q, one_)));
+        }
+    }
+
+private:
+    static __m128i splat(uint32_t v) {
+        if constexpr (Bits == 8) return _mm_set1_epi8(static_cast<char>(v));
+        else if constexpr (Bits == 16) return _mm_set1_epi16(static_cast<short>(v));
+        else return _mm_set1_epi32(static_cast<int>(v));
+    }
+    __m128i cnt_, mask_, thr_, one_, keep_;
+};
+
 }  // namespace sse
 }  // namespace veks
