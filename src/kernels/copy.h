@@ -5,8 +5,9 @@
 // so copies and zero fills above kSmallBytes go straight to them; below,
 // where the call would cost more than the work, they are done here. Filling
 // with a pattern of 2 or 4 bytes goes to the library's wide-character fill
-// (its unit is 4 bytes on every target), with the same wide stores. Patterns
-// of 8 and 16 bytes have no library routine: fillPattern stores small fills
+// (its unit is 4 bytes on every target) up to the size where streaming
+// stores take over (it has none: there it trails memset by a third). Other patterns
+// have no library routine: fillPattern stores small fills
 // directly, mid-sized ones at 16-byte aligned addresses, larger ones by
 // copying a filled block along with memcpy, and fills larger than the caches
 // with streaming stores. fillPatternScalar is its twin and oracle.
@@ -168,7 +169,7 @@ inline void fillPattern(void* dst, __m128i first, size_t count) {
         return;
     }
     if constexpr (W <= 4) {
-        if ((reinterpret_cast<uintptr_t>(d) & 3) == 0) {
+        if ((reinterpret_cast<uintptr_t>(d) & 3) == 0 && n < kStreamingFillBytes) {
             fillWide(d, _mm_cvtsi128_si32(first), n);
             return;
         }
