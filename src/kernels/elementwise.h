@@ -101,6 +101,16 @@ inline void eachBlock(F& f, int i) {
     if constexpr (K > 1) eachBlock<K - 1, W>(f, i + W);
 }
 
+// The first operand of a block: loaded, or left in memory for the complex
+// product of double elements, which loads it in its own way.
+template <class Op, class S>
+inline auto firstOperand(S s, int i) {
+    if constexpr (std::is_same<Op, MulCplxOp>::value && std::is_same<S, Arr<T64fc>>::value)
+        return s.p + i;
+    else
+        return vload(s, i);
+}
+
 // d[i] = Op(a[i], b[i]) for real values or complex elements. Each block is
 // stored as soon as it is computed, so that the stores of a step go out in
 // ascending address order: the same loads and stores grouped (all loads,
@@ -112,11 +122,11 @@ inline void floatLoop(S1 a, S2 b, T* d, int n) {
     if constexpr (Repeats<S2>::value) {
         // a constant operand: prepared once for the whole loop
         const auto y = Op::prepare(vload(b, 0));
-        auto block = [&](int j) { vstore(d + j, Op::withConst(vload(a, j), y)); };
+        auto block = [&](int j) { vstore(d + j, Op::withConst(firstOperand<Op>(a, j), y)); };
         for (; i + K * W <= n; i += K * W) eachBlock<K, W>(block, i);
         for (; i + W <= n; i += W) block(i);
     } else {
-        auto block = [&](int j) { vstore(d + j, Op::v(vload(a, j), vload(b, j))); };
+        auto block = [&](int j) { vstore(d + j, Op::v(firstOperand<Op>(a, j), vload(b, j))); };
         for (; i + K * W <= n; i += K * W) eachBlock<K, W>(block, i);
         for (; i + W <= n; i += W) block(i);
     }
