@@ -85,14 +85,17 @@ struct Repeats<Bcast<T>> : std::true_type {};
 template <class T>
 struct Repeats<BcastPair<T>> : std::true_type {};
 
-// Blocks per step of the float loop. Four for the operations of one
-// instruction, so that the counter and the branch are shared; one for the
-// complex product, whose shuffles bound the loop and whose longer body runs
-// slower when repeated within a step.
-template <class Op>
+// Blocks per step of the float loop. Four for the operations of a few
+// instructions, so that the counter and the branch are shared; one for the
+// complex product of two vectors and the single-precision one by a
+// constant, whose shuffles bound the loop and whose longer bodies ran up to
+// 1.25 x slower when repeated within a step.
+template <class Op, class T, bool Const>
 struct StepBlocks : std::integral_constant<int, 4> {};
+template <class T>
+struct StepBlocks<MulCplxOp, T, false> : std::integral_constant<int, 1> {};
 template <>
-struct StepBlocks<MulCplxOp> : std::integral_constant<int, 1> {};
+struct StepBlocks<MulCplxOp, T32fc, true> : std::integral_constant<int, 1> {};
 
 // f(i), f(i + W), ... for K blocks, in ascending order.
 template <int K, int W, class F>
@@ -117,7 +120,7 @@ inline auto firstOperand(S s, int i) {
 // then all stores, which the compiler may reorder) ran up to 20 % slower.
 template <class Op, class T, class S1, class S2>
 inline void floatLoop(S1 a, S2 b, T* d, int n) {
-    constexpr int W = lanesOf<T>(), K = StepBlocks<Op>::value;
+    constexpr int W = lanesOf<T>(), K = StepBlocks<Op, T, Repeats<S2>::value>::value;
     int i = 0;
     if constexpr (Repeats<S2>::value) {
         // a constant operand: prepared once for the whole loop
