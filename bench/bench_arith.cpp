@@ -114,6 +114,44 @@ PLAIN void plainMulCc32fc(const T32fc* a, const T32fc* b, T32fc* d, int n) {
     }
 }
 
+// The remaining float forms from one element rule each: x + y, y - x, and
+// the products and quotients part by part with the complex formulas above.
+struct PAdd { template <class T> static T f(T x, T y) { return x + y; } };
+struct PSub { template <class T> static T f(T x, T y) { return y - x; } };   // second minus first
+struct PSubR { template <class T> static T f(T x, T y) { return x - y; } };  // element minus constant
+struct PMul { template <class T> static T f(T x, T y) { return x * y; } };
+struct PDiv { template <class T> static T f(T x, T y) { return x / y; } };   // element / constant
+struct PDivR { template <class T> static T f(T x, T y) { return y / x; } };  // constant / element
+template <class C> C cplx(decltype(C{}.re) re, decltype(C{}.re) im) { C c; c.re = re; c.im = im; return c; }
+template <class Op, class C> C partwise(C x, C y) { return cplx<C>(Op::f(x.re, y.re), Op::f(x.im, y.im)); }
+template <class C> C cmul(C x, C y) { return cplx<C>(x.re * y.re - x.im * y.im, x.re * y.im + x.im * y.re); }
+template <class C> C cdiv(C n, C v) {
+    const auto m = v.re * v.re + v.im * v.im;
+    return cplx<C>((n.re * v.re + n.im * v.im) / m, (n.im * v.re - n.re * v.im) / m);
+}
+template <class Op, class T> T elem(T x, T y) {
+    if constexpr (std::is_arithmetic<T>::value) return Op::f(x, y);
+    else if constexpr (std::is_same<Op, PMul>::value) return cmul(x, y);
+    else if constexpr (std::is_same<Op, PDiv>::value) return cdiv(x, y);
+    else return partwise<Op>(x, y);
+}
+template <class T, class Op>
+PLAIN void plainBin(const T* a, const T* b, T* d, int n) { for (int i = 0; i < n; ++i) d[i] = elem<Op>(a[i], b[i]); }
+template <class T, class Op>
+PLAIN void plainConst(const T* a, const T* b, T* d, int n) {
+    const T v = b[0];
+    for (int i = 0; i < n; ++i) d[i] = elem<Op>(a[i], v);
+}
+template <class T>
+PLAIN void plainAddP(const T* a, const T* b, T* d, int n) {
+    for (int i = 0; i < n; ++i) d[i] = elem<PAdd>(d[i], elem<PMul>(a[i], b[i]));
+}
+template <class T>
+PLAIN void plainAddPC(const T* a, const T* b, T* d, int n) {
+    const T v = b[0];
+    for (int i = 0; i < n; ++i) d[i] = d[i] + a[i] * v;
+}
+
 // ---- scalar references of the scale rule (kept scalar on purpose) -------------
 
 #define SCALAR __attribute__((noinline, optimize("no-tree-vectorize")))
@@ -190,6 +228,29 @@ PAIR(Div_32fc, T32fc, veksDiv_32fc(a, b, d, n), plainDivC<T32fc>)
 PAIR(Add_64fc, T64fc, veksAdd_64fc(a, b, d, n), plainAdd64fc)
 PAIR(Mul_64fc, T64fc, veksMul_64fc(a, b, d, n), plainMulC<T64fc>)
 PAIR(Div_64fc, T64fc, veksDiv_64fc(a, b, d, n), plainDivC<T64fc>)
+PAIR(Sub_64f, T64f, veksSub_64f(a, b, d, n), (plainBin<T64f, PSub>))
+PAIR(Sub_32fc, T32fc, veksSub_32fc(a, b, d, n), (plainBin<T32fc, PSub>))
+PAIR(Sub_64fc, T64fc, veksSub_64fc(a, b, d, n), (plainBin<T64fc, PSub>))
+PAIR(AddC_64f, T64f, veksAddC_64f(a, b[0], d, n), (plainConst<T64f, PAdd>))
+PAIR(AddC_32fc, T32fc, veksAddC_32fc(a, b[0], d, n), (plainConst<T32fc, PAdd>))
+PAIR(AddC_64fc, T64fc, veksAddC_64fc(a, b[0], d, n), (plainConst<T64fc, PAdd>))
+PAIR(SubC_32f, T32f, veksSubC_32f(a, b[0], d, n), (plainConst<T32f, PSubR>))
+PAIR(SubC_64f, T64f, veksSubC_64f(a, b[0], d, n), (plainConst<T64f, PSubR>))
+PAIR(SubC_32fc, T32fc, veksSubC_32fc(a, b[0], d, n), (plainConst<T32fc, PSubR>))
+PAIR(SubC_64fc, T64fc, veksSubC_64fc(a, b[0], d, n), (plainConst<T64fc, PSubR>))
+PAIR(SubCRev_32f, T32f, veksSubCRev_32f(a, b[0], d, n), (plainConst<T32f, PSub>))
+PAIR(SubCRev_64f, T64f, veksSubCRev_64f(a, b[0], d, n), (plainConst<T64f, PSub>))
+PAIR(SubCRev_32fc, T32fc, veksSubCRev_32fc(a, b[0], d, n), (plainConst<T32fc, PSub>))
+PAIR(SubCRev_64fc, T64fc, veksSubCRev_64fc(a, b[0], d, n), (plainConst<T64fc, PSub>))
+PAIR(MulC_64fc, T64fc, veksMulC_64fc(a, b[0], d, n), (plainConst<T64fc, PMul>))
+PAIR(DivC_64f, T64f, veksDivC_64f(a, b[0], d, n), (plainConst<T64f, PDiv>))
+PAIR(DivC_32fc, T32fc, veksDivC_32fc(a, b[0], d, n), (plainConst<T32fc, PDiv>))
+PAIR(DivC_64fc, T64fc, veksDivC_64fc(a, b[0], d, n), (plainConst<T64fc, PDiv>))
+PAIR(DivCRev_32f, T32f, veksDivCRev_32f(a, b[0], d, n), (plainConst<T32f, PDivR>))
+PAIR(AddProduct_64f, T64f, veksAddProduct_64f(a, b, d, n), plainAddP<T64f>)
+PAIR(AddProduct_32fc, T32fc, veksAddProduct_32fc(a, b, d, n), plainAddP<T32fc>)
+PAIR(AddProduct_64fc, T64fc, veksAddProduct_64fc(a, b, d, n), plainAddP<T64fc>)
+PAIR(AddProductC_32f, T32f, veksAddProductC_32f(a, b[0], d, n), plainAddPC<T32f>)
 
 #define SCALED(name, T, lib, ref)                                                                       \
     void BM_##name(benchmark::State& st) {                                                              \

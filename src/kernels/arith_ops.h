@@ -103,34 +103,34 @@ struct MulCplxOp {
         const __m128 sw2 = _mm_shuffle_ps(x2, x2, _MM_SHUFFLE(2, 3, 0, 1));
         return _mm_addsub_ps(_mm_mul_ps(re1, x2), _mm_mul_ps(im1, sw2));
     }
-    static __m128d v(__m128d x1, __m128d x2) {
-        const __m128d re1 = _mm_unpacklo_pd(x1, x1), im1 = _mm_unpackhi_pd(x1, x1);
+    // A double element x1 is read from memory, each part duplicated by its
+    // own load, which costs no shuffle.
+    static __m128d v(const T64fc* x1, __m128d x2) {
+        const __m128d re1 = _mm_loaddup_pd(&x1->re), im1 = _mm_loaddup_pd(&x1->im);
         const __m128d sw2 = _mm_shuffle_pd(x2, x2, 1);
         return _mm_addsub_pd(_mm_mul_pd(re1, x2), _mm_mul_pd(im1, sw2));
     }
-    // With a constant x2 = c: x1 * (c.re, c.re) + (x1.im, x1.re) * (c.im, c.im)
-    // with the first of the second products negated after rounding: the same
-    // products and sums as above, in every rounding mode.
+    // With a constant x2 = c, single precision: x1 * (c.re, c.re) and
+    // (x1.im, x1.re) * (c.im, c.im), the second subtracted from the first in
+    // the real lane and added in the imaginary one: the same products and
+    // sums as above (x1.im * c.re + x1.re * c.im is the same sum in the other
+    // order) from one shuffle. Double precision: v above with c and its
+    // swapped parts prepared once.
     struct Prepared4 {
-        __m128 re, im, sign;
+        __m128 re, im;
     };
     struct Prepared2 {
-        __m128d re, im, sign;
+        __m128d c, sw;
     };
-    static Prepared4 prepare(__m128 c) {
-        return {_mm_moveldup_ps(c), _mm_movehdup_ps(c),
-                _mm_castsi128_ps(_mm_setr_epi32(int(0x80000000), 0, int(0x80000000), 0))};
-    }
-    static Prepared2 prepare(__m128d c) {
-        return {_mm_unpacklo_pd(c, c), _mm_unpackhi_pd(c, c), _mm_castsi128_pd(_mm_setr_epi32(0, int(0x80000000), 0, 0))};
-    }
+    static Prepared4 prepare(__m128 c) { return {_mm_moveldup_ps(c), _mm_movehdup_ps(c)}; }
+    static Prepared2 prepare(__m128d c) { return {c, _mm_shuffle_pd(c, c, 1)}; }
     static __m128 withConst(__m128 x1, const Prepared4& c) {
         const __m128 sw1 = _mm_shuffle_ps(x1, x1, _MM_SHUFFLE(2, 3, 0, 1));
-        return _mm_add_ps(_mm_mul_ps(x1, c.re), _mm_xor_ps(_mm_mul_ps(sw1, c.im), c.sign));
+        return _mm_addsub_ps(_mm_mul_ps(x1, c.re), _mm_mul_ps(sw1, c.im));
     }
-    static __m128d withConst(__m128d x1, const Prepared2& c) {
-        const __m128d sw1 = _mm_shuffle_pd(x1, x1, 1);
-        return _mm_add_pd(_mm_mul_pd(x1, c.re), _mm_xor_pd(_mm_mul_pd(sw1, c.im), c.sign));
+    static __m128d withConst(const T64fc* x1, const Prepared2& c) {
+        const __m128d re1 = _mm_loaddup_pd(&x1->re), im1 = _mm_loaddup_pd(&x1->im);
+        return _mm_addsub_pd(_mm_mul_pd(re1, c.c), _mm_mul_pd(im1, c.sw));
     }
 };
 

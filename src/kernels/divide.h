@@ -37,38 +37,75 @@ inline float refinedQuotient(float n, float d) {
     return q0 + (q0 * e + q0) * e;
 }
 
-inline __m128 refinedQuotient(__m128 n, __m128 d) {
+// The vector form also gives e, whose lanes are NaN where d is zero
+// (the estimate of 1 / 0 is infinite, and 0 * inf is NaN).
+inline __m128 refinedQuotient(__m128 n, __m128 d, __m128* err) {
     const __m128 r = _mm_rcp_ps(d);
     const __m128 e = _mm_sub_ps(_mm_set1_ps(1.0f), _mm_mul_ps(d, r));
     const __m128 q0 = _mm_mul_ps(n, r);
+    *err = e;
     return _mm_add_ps(q0, _mm_mul_ps(_mm_add_ps(_mm_mul_ps(q0, e), q0), e));
 }
+inline __m128 refinedQuotient(__m128 n, __m128 d) {
+    __m128 e;
+    return refinedQuotient(n, d, &e);
+}
+
+// Whether a source vector shares memory with the n elements at d.
+inline bool overlaps(Arr<float> s, const float* d, int n) {
+    const uintptr_t a = reinterpret_cast<uintptr_t>(s.p), b = reinterpret_cast<uintptr_t>(d);
+    const uintptr_t bytes = sizeof(float) * static_cast<uintptr_t>(n);
+    return a < b + bytes && b < a + bytes;
+}
+inline bool overlaps(Bcast<float>, const float*, int) { return false; }
 
 // d[i] = dividend[i] / divisor[i]; returns whether a divisor was zero.
+//
+// With no source in the way of the destination, every whole block first
+// takes the refined quotient. The bits of the e terms, or-ed together, form
+// a NaN if any e was NaN (its exponent bits all set, its fraction not zero),
+// so a zero divisor anywhere shows at the end of the pass; only then are the
+// blocks done again with the test of each block. (Or-ing other values may
+// also show a NaN, which costs the second pass and nothing else.) In place,
+// a step of four blocks tests its divisors for zeros once, and when one has
+// a zero, its blocks go through the test one by one. Either way each block
+// takes the path its own divisors choose.
 template <class SD, class SN>
 inline bool divide32fLoop(SD divisor, SN dividend, float* d, int n) {
+    constexpr int K = 4;
     const __m128 zero = _mm_setzero_ps();
+    const int whole = n & ~3;
     int zeroMask = 0;
-    int i = 0;
-    for (; i + 8 <= n; i += 8) {
-        const __m128 a0 = vload(divisor, i), b0 = vload(dividend, i);
-        const __m128 a1 = vload(divisor, i + 4), b1 = vload(dividend, i + 4);
-        const int z0 = _mm_movemask_ps(_mm_cmpeq_ps(a0, zero)), z1 = _mm_movemask_ps(_mm_cmpeq_ps(a1, zero));
-        if (z0 | z1) {
-            zeroMask |= z0 | z1;
-            _mm_storeu_ps(d + i, z0 ? _mm_div_ps(b0, a0) : refinedQuotient(b0, a0));
-            _mm_storeu_ps(d + i + 4, z1 ? _mm_div_ps(b1, a1) : refinedQuotient(b1, a1));
-        } else {
-            const __m128 q0 = refinedQuotient(b0, a0), q1 = refinedQuotient(b1, a1);
-            _mm_storeu_ps(d + i, q0);
-            _mm_storeu_ps(d + i + 4, q1);
-        }
-    }
-    for (; i + 4 <= n; i += 4) {
-        const __m128 a = vload(divisor, i), b = vload(dividend, i);
+    auto checked = [&](int j) {
+        const __m128 a = vload(divisor, j), b = vload(dividend, j);
         const int z = _mm_movemask_ps(_mm_cmpeq_ps(a, zero));
         zeroMask |= z;
-        _mm_storeu_ps(d + i, z ? _mm_div_ps(b, a) : refinedQuotient(b, a));
+        _mm_storeu_ps(d + j, z ? _mm_div_ps(b, a) : refinedQuotient(b, a));
+    };
+    auto refined = [&](int j) { _mm_storeu_ps(d + j, refinedQuotient(vload(dividend, j), vload(divisor, j))); };
+    int i = 0;
+    if (!overlaps(divisor, d, n) && !overlaps(dividend, d, n)) {
+        __m128 bits = zero;
+        auto optimistic = [&](int j) {
+            __m128 e;
+            _mm_storeu_ps(d + j, refinedQuotient(vload(dividend, j), vload(divisor, j), &e));
+            bits = _mm_or_ps(bits, e);
+        };
+        for (; i + 4 * K <= whole; i += 4 * K) eachBlock<K, 4>(optimistic, i);
+        for (; i < whole; i += 4) optimistic(i);
+        if (_mm_movemask_ps(_mm_cmpunord_ps(bits, bits))) {
+            for (i = 0; i < whole; i += 4) checked(i);
+        }
+    } else {
+        for (; i + 4 * K <= whole; i += 4 * K) {
+            __m128 z = _mm_cmpeq_ps(vload(divisor, i), zero);
+            for (int k = 1; k < K; ++k) z = _mm_or_ps(z, _mm_cmpeq_ps(vload(divisor, i + 4 * k), zero));
+            if (_mm_movemask_ps(z))
+                eachBlock<K, 4>(checked, i);
+            else
+                eachBlock<K, 4>(refined, i);
+        }
+        for (; i < whole; i += 4) checked(i);
     }
     if (i < n) {
         bool z = false;
@@ -95,11 +132,12 @@ inline C divComplex(C n, C d) {
     return q;
 }
 
-// The same on two complex values of single precision (re, im, re, im).
+// The same on two complex values of single precision (re, im, re, im). The
+// squares are taken of the duplicated parts, which the numerators need
+// anyway: the same products and sum as m above, two shuffles fewer.
 inline __m128 divComplex(__m128 n, __m128 d) {
-    const __m128 dd = _mm_mul_ps(d, d);
-    const __m128 m = _mm_add_ps(_mm_moveldup_ps(dd), _mm_movehdup_ps(dd));  // m, m per element
     const __m128 dre = _mm_moveldup_ps(d), dim = _mm_movehdup_ps(d);
+    const __m128 m = _mm_add_ps(_mm_mul_ps(dre, dre), _mm_mul_ps(dim, dim));  // m, m per element
     const __m128 nsw = _mm_shuffle_ps(n, n, _MM_SHUFFLE(2, 3, 0, 1));      // n.im, n.re
     // re: n.re * d.re + n.im * d.im; im: n.im * d.re - n.re * d.im
     const __m128 a = _mm_mul_ps(n, dre);                                  // n.re d.re, n.im d.re
@@ -108,9 +146,8 @@ inline __m128 divComplex(__m128 n, __m128 d) {
     return _mm_div_ps(_mm_add_ps(a, _mm_xor_ps(b, sign)), m);
 }
 inline __m128d divComplex(__m128d n, __m128d d) {
-    const __m128d dd = _mm_mul_pd(d, d);
-    const __m128d m = _mm_add_pd(_mm_unpacklo_pd(dd, dd), _mm_unpackhi_pd(dd, dd));
     const __m128d dre = _mm_unpacklo_pd(d, d), dim = _mm_unpackhi_pd(d, d);
+    const __m128d m = _mm_add_pd(_mm_mul_pd(dre, dre), _mm_mul_pd(dim, dim));
     const __m128d nsw = _mm_shuffle_pd(n, n, 1);
     const __m128d a = _mm_mul_pd(n, dre);
     const __m128d b = _mm_mul_pd(nsw, dim);
@@ -126,50 +163,28 @@ inline bool zeroOf(C v) {
 inline int zeroLanes(__m128d d) { return _mm_movemask_pd(_mm_cmpeq_pd(d, _mm_setzero_pd())); }
 
 // d[i] = dividend[i] / divisor[i] for T64f, T32fc, T64fc; returns whether a
-// divisor was zero.
+// divisor was zero. Two blocks a step, each stored as soon as it is computed.
 template <class T, class SD, class SN>
 inline bool divideFullLoop(SD divisor, SN dividend, T* d, int n) {
     constexpr int W = lanesOf<T>();
     bool z = false;
-    int i = 0;
-    auto zeros = [](auto a) {
-        if constexpr (std::is_same<T, T64f>::value)
-            return zeroLanes(a) != 0;
-        else if constexpr (std::is_same<T, T64fc>::value)
-            return zeroLanes(a) == 3;
-        else {
-            const int m = _mm_movemask_ps(_mm_cmpeq_ps(a, _mm_setzero_ps()));
-            return (m & 3) == 3 || (m & 12) == 12;
-        }
-    };
-    auto quotient = [](auto b, auto a) {
-        if constexpr (std::is_same<T, T64f>::value)
-            return _mm_div_pd(b, a);
-        else
-            return divComplex(b, a);
-    };
-    for (; i + 2 * W <= n; i += 2 * W) {
-        const auto a0 = vload(divisor, i), b0 = vload(dividend, i);
-        const auto a1 = vload(divisor, i + W), b1 = vload(dividend, i + W);
-        z |= zeros(a0) | zeros(a1);
-        const auto q0 = quotient(b0, a0), q1 = quotient(b1, a1);
-        vstore(d + i, q0);
-        vstore(d + i + W, q1);
-    }
-    for (; i + W <= n; i += W) {
-        const auto a = vload(divisor, i), b = vload(dividend, i);
+    auto block = [&](int j) {
+        const auto a = vload(divisor, j), b = vload(dividend, j);
         if constexpr (std::is_same<T, T64f>::value) {
             z |= zeroLanes(a) != 0;
-            vstore(d + i, _mm_div_pd(b, a));
+            vstore(d + j, _mm_div_pd(b, a));
         } else if constexpr (std::is_same<T, T64fc>::value) {
             z |= zeroLanes(a) == 3;
-            vstore(d + i, divComplex(b, a));
+            vstore(d + j, divComplex(b, a));
         } else {
             const int m = _mm_movemask_ps(_mm_cmpeq_ps(a, _mm_setzero_ps()));
             z |= (m & 3) == 3 || (m & 12) == 12;
-            vstore(d + i, divComplex(b, a));
+            vstore(d + j, divComplex(b, a));
         }
-    }
+    };
+    int i = 0;
+    for (; i + 2 * W <= n; i += 2 * W) eachBlock<2, W>(block, i);
+    for (; i + W <= n; i += W) block(i);
     for (; i < n; ++i) {
         const T a = at(divisor, i), b = at(dividend, i);
         z |= zeroOf(a);

@@ -85,28 +85,53 @@ struct Repeats<Bcast<T>> : std::true_type {};
 template <class T>
 struct Repeats<BcastPair<T>> : std::true_type {};
 
-// d[i] = Op(a[i], b[i]) for real values or complex elements.
+// Blocks per step of the float loop. Four for the operations of a few
+// instructions, so that the counter and the branch are shared; one for the
+// complex product of two vectors and the single-precision one by a
+// constant, whose shuffles bound the loop and whose longer bodies ran up to
+// 1.25 x slower when repeated within a step.
+template <class Op, class T, bool Const>
+struct StepBlocks : std::integral_constant<int, 4> {};
+template <class T>
+struct StepBlocks<MulCplxOp, T, false> : std::integral_constant<int, 1> {};
+template <>
+struct StepBlocks<MulCplxOp, T32fc, true> : std::integral_constant<int, 1> {};
+
+// f(i), f(i + W), ... for K blocks, in ascending order.
+template <int K, int W, class F>
+inline void eachBlock(F& f, int i) {
+    f(i);
+    if constexpr (K > 1) eachBlock<K - 1, W>(f, i + W);
+}
+
+// The first operand of a block: loaded, or left in memory for the complex
+// product of double elements, which loads it in its own way.
+template <class Op, class S>
+inline auto firstOperand(S s, int i) {
+    if constexpr (std::is_same<Op, MulCplxOp>::value && std::is_same<S, Arr<T64fc>>::value)
+        return s.p + i;
+    else
+        return vload(s, i);
+}
+
+// d[i] = Op(a[i], b[i]) for real values or complex elements. Each block is
+// stored as soon as it is computed, so that the stores of a step go out in
+// ascending address order: the same loads and stores grouped (all loads,
+// then all stores, which the compiler may reorder) ran up to 20 % slower.
 template <class Op, class T, class S1, class S2>
 inline void floatLoop(S1 a, S2 b, T* d, int n) {
-    constexpr int W = lanesOf<T>();
+    constexpr int W = lanesOf<T>(), K = StepBlocks<Op, T, Repeats<S2>::value>::value;
     int i = 0;
     if constexpr (Repeats<S2>::value) {
         // a constant operand: prepared once for the whole loop
         const auto y = Op::prepare(vload(b, 0));
-        for (; i + 2 * W <= n; i += 2 * W) {
-            const auto r0 = Op::withConst(vload(a, i), y), r1 = Op::withConst(vload(a, i + W), y);
-            vstore(d + i, r0);
-            vstore(d + i + W, r1);
-        }
-        for (; i + W <= n; i += W) vstore(d + i, Op::withConst(vload(a, i), y));
+        auto block = [&](int j) { vstore(d + j, Op::withConst(firstOperand<Op>(a, j), y)); };
+        for (; i + K * W <= n; i += K * W) eachBlock<K, W>(block, i);
+        for (; i + W <= n; i += W) block(i);
     } else {
-        for (; i + 2 * W <= n; i += 2 * W) {
-            const auto r0 = Op::v(vload(a, i), vload(b, i));
-            const auto r1 = Op::v(vload(a, i + W), vload(b, i + W));
-            vstore(d + i, r0);
-            vstore(d + i + W, r1);
-        }
-        for (; i + W <= n; i += W) vstore(d + i, Op::v(vload(a, i), vload(b, i)));
+        auto block = [&](int j) { vstore(d + j, Op::v(firstOperand<Op>(a, j), vload(b, j))); };
+        for (; i + K * W <= n; i += K * W) eachBlock<K, W>(block, i);
+        for (; i + W <= n; i += W) block(i);
     }
     for (; i < n; ++i) d[i] = Op::s(at(a, i), at(b, i));
 }

@@ -240,6 +240,49 @@ TEST(Div, FloatZeroDivisorBlocks) {
     EXPECT_EQ(veksDivC_64fc(&c, T64fc{0, 1}, &dc, 1), VEK_OK);
 }
 
+// Long vectors of single-precision quotients whose divisors are mostly
+// ordinary: with no special value anywhere, with one special divisor or
+// dividend placed in one block (first, middle, last whole block, tail), out
+// of place, in place and with a constant dividend. Each block must take the
+// path its own divisors choose, whatever the rest of the vector holds.
+TEST(Div, FloatLongVectorsWithOneSpecialValue) {
+    const float inf = INFINITY, nan = NAN;
+    const struct { float divisor, dividend; } specials[] = {
+        {1.0f, 1.0f}, {0.0f, 1.0f}, {-0.0f, 0.0f}, {inf, 1.0f}, {nan, 1.0f}, {2.0f, inf}, {2.0f, nan},
+        {1e-40f, 1.0f}, {3e38f, 1e-30f},
+    };
+    vt::Rng rng(4242);
+    for (int n : {16, 17, 64, 1023, 1024}) {
+        for (const auto& sp : specials) {
+            for (int pos : {0, 3, n / 2, (n & ~3) - 1, n - 1}) {
+                SCOPED_TRACE("len " + std::to_string(n) + " at " + std::to_string(pos) + " divisor " +
+                             std::to_string(sp.divisor) + " dividend " + std::to_string(sp.dividend));
+                std::vector<float> a(n), b(n), want(n), d(n);
+                for (int i = 0; i < n; ++i) {
+                    a[i] = ldexpf(rng.next<float>(1.0, 2.0), int(rng.range(-60, 60))) * (rng.range(0, 1) ? 1 : -1);
+                    b[i] = rng.next<float>(-1e6, 1e6);
+                }
+                a[pos] = sp.divisor;
+                b[pos] = sp.dividend;
+                const VekResult st = refDiv32f<false>(a.data(), b.data(), want.data(), n, 0);
+                ASSERT_EQ(veksDiv_32f(a.data(), b.data(), d.data(), n), st);
+                ASSERT_TRUE(at::sameAll(d.data(), want));
+                d = b;
+                ASSERT_EQ(veksDiv_32f_I(a.data(), d.data(), n), st);
+                ASSERT_TRUE(at::sameAll(d.data(), want));
+                // a constant dividend: DivCRev, out of place and in place
+                const std::vector<float> k(n, b[pos]);
+                const VekResult stc = refDiv32f<false>(a.data(), k.data(), want.data(), n, 0);
+                ASSERT_EQ(veksDivCRev_32f(a.data(), b[pos], d.data(), n), stc);
+                ASSERT_TRUE(at::sameAll(d.data(), want));
+                d = a;
+                ASSERT_EQ(veksDivCRev_32f_I(b[pos], d.data(), n), stc);
+                ASSERT_TRUE(at::sameAll(d.data(), want));
+            }
+        }
+    }
+}
+
 TEST(Div, CRev16uZeroCases) {
     const T16u s[4] = {0, 1, 2, 3};
     T16u d[4];
