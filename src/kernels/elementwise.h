@@ -486,50 +486,8 @@ inline void narrowProductLoop(S1 a, S2 b, T* d, int n, int sf) {
 
 // ---- products of 32-bit integers in 64-bit lanes -----------------------------
 //
-// pmuldq gives the exact products s (|s| <= 2^62) of the even lanes. With
-// u = s + 2^63 (the sign bit flipped) u is non-negative, so a logical shift
-// floors: floor(t / 2^sf) = ((t + 2^63) >> sf) - 2^(63-sf) for sf <= 63.
-// Ties to even: the rule's result is floor((s + 2^(sf-1) - 1 + odd) / 2^sf)
-// with odd = bit sf of s, which is bit sf of u (sf < 63); u + 2^(sf-1) stays
-// below 3 * 2^62 + 2^61 < 2^64 for sf <= 62, so nothing wraps. The 64-bit
-// result fits 32 bits exactly where its high half is the sign of its low
-// half; else it saturates by the sign of the high half.
-template <bool Round>
-class ProductRound {
-public:
-    explicit ProductRound(int sf)
-        : cnt_(_mm_cvtsi32_si128(sf)),
-          hm1_(_mm_set1_epi64x(Round ? (int64_t(1) << (sf - 1)) - 1 : 0)),
-          bit_(_mm_set1_epi64x(int64_t(1) << sf)),
-          flip_(_mm_set1_epi64x(INT64_MIN)),
-          unbias_(_mm_set1_epi64x(Round ? int64_t(1) << (63 - sf) : 0)) {}
-
-    // The rounded quotients of two exact products in 64-bit lanes.
-    __m128i apply(__m128i s) const {
-        if constexpr (!Round) {
-            return s;
-        } else {
-            const __m128i u = _mm_xor_si128(s, flip_);
-            const __m128i odd = _mm_cmpeq_epi64(_mm_and_si128(u, bit_), bit_);  // -1 where odd
-            const __m128i t = _mm_sub_epi64(_mm_add_epi64(u, hm1_), odd);
-            return _mm_sub_epi64(_mm_srl_epi64(t, cnt_), unbias_);
-        }
-    }
-
-private:
-    __m128i cnt_, hm1_, bit_, flip_, unbias_;
-};
-
-// Four 64-bit results (elements 0 and 2 in ev, 1 and 3 in od) saturated
-// to 32 bits, in element order.
-inline __m128i saturate64to32(__m128i ev, __m128i od) {
-    const __m128i lows = _mm_blend_epi16(ev, _mm_slli_epi64(od, 32), 0xcc);
-    const __m128i highs = _mm_blend_epi16(_mm_srli_epi64(ev, 32), od, 0xcc);
-    const __m128i zero = _mm_setzero_si128();
-    const __m128i fits = _mm_cmpeq_epi32(highs, _mm_cmpgt_epi32(zero, lows));
-    const __m128i sat = _mm_xor_si128(_mm_cmpgt_epi32(zero, highs), _mm_set1_epi32(INT32_MAX));
-    return _mm_blendv_epi8(sat, lows, fits);
-}
+// pmuldq gives the exact products of the even lanes; sse::ProductRound64
+// rounds them by the rule and sse::saturate64to32 narrows them.
 
 // The odd elements of a source moved to the even lanes (a repeated value is
 // there already).
@@ -552,13 +510,13 @@ constexpr bool product32Form() {
 // d[i] = scaleSat(a[i] * b[i], sf) for 0 <= sf <= 62 (sf = 0 without Round).
 template <bool Round, class S1, class S2>
 inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
-    const ProductRound<Round> r(sf);
+    const sse::ProductRound64<Round> r(sf);
     int i = 0;
     for (; i + 4 <= n; i += 4) {
         const __m128i x = sload(a, i), y = sload(b, i);
         const __m128i ev = r.apply(_mm_mul_epi32(x, y));
         const __m128i od = r.apply(_mm_mul_epi32(oddLanes<S1>(x), oddLanes<S2>(y)));
-        sse::storeu(d + i, saturate64to32(ev, od));
+        sse::storeu(d + i, sse::saturate64to32(ev, od));
     }
     for (; i < n; ++i) d[i] = scaleSat<T32s>(int64_t(at(a, i)) * at(b, i), sf);
 }

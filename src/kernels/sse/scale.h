@@ -10,6 +10,7 @@
 #pragma once
 
 #include <smmintrin.h>
+#include <stdint.h>
 
 #include "frame/detail/traits.h"
 
@@ -152,6 +153,53 @@ private:
     }
     __m128i cnt_, mask_, thr_, one_, keep_;
 };
+
+// The rule's right shift (ties to even) of exact products s of two 32-bit
+// integers (|s| <= 2^62) held in 64-bit lanes. With
+// u = s + 2^63 (the sign bit flipped) u is non-negative, so a logical shift
+// floors: floor(t / 2^sf) = ((t + 2^63) >> sf) - 2^(63-sf) for sf <= 63.
+// Ties to even: the rule's result is floor((s + 2^(sf-1) - 1 + odd) / 2^sf)
+// with odd = bit sf of s, which is bit sf of u (sf < 63); u + 2^(sf-1) stays
+// below 3 * 2^62 + 2^61 < 2^64 for sf <= 62, so nothing wraps. The 64-bit
+// result fits 32 bits exactly where its high half is the sign of its low
+// half; else it saturates by the sign of the high half.
+template <bool Round>
+class ProductRound64 {
+public:
+    explicit ProductRound64(int sf)
+        : cnt_(_mm_cvtsi32_si128(sf)),
+          hm1_(_mm_set1_epi64x(Round ? (int64_t(1) << (sf - 1)) - 1 : 0)),
+          bit_(_mm_set1_epi64x(int64_t(1) << sf)),
+          flip_(_mm_set1_epi64x(INT64_MIN)),
+          unbias_(_mm_set1_epi64x(Round ? int64_t(1) << (63 - sf) : 0)) {}
+
+    // The rounded quotients of two exact products in 64-bit lanes.
+    __m128i apply(__m128i s) const {
+        if constexpr (!Round) {
+            return s;
+        } else {
+            const __m128i u = _mm_xor_si128(s, flip_);
+            const __m128i odd = _mm_cmpeq_epi64(_mm_and_si128(u, bit_), bit_);  // -1 where odd
+            const __m128i t = _mm_sub_epi64(_mm_add_epi64(u, hm1_), odd);
+            return _mm_sub_epi64(_mm_srl_epi64(t, cnt_), unbias_);
+        }
+    }
+
+private:
+    __m128i cnt_, hm1_, bit_, flip_, unbias_;
+};
+
+// Four 64-bit results (elements 0 and 2 in ev, 1 and 3 in od) saturated
+// to 32 bits, in element order.
+inline __m128i saturate64to32(__m128i ev, __m128i od) {
+    const __m128i lows = _mm_blend_epi16(ev, _mm_slli_epi64(od, 32), 0xcc);
+    const __m128i highs = _mm_blend_epi16(_mm_srli_epi64(ev, 32), od, 0xcc);
+    const __m128i zero = _mm_setzero_si128();
+    const __m128i fits = _mm_cmpeq_epi32(highs, _mm_cmpgt_epi32(zero, lows));
+    const __m128i sat = _mm_xor_si128(_mm_cmpgt_epi32(zero, highs), _mm_set1_epi32(INT32_MAX));
+    return _mm_blendv_epi8(sat, lows, fits);
+}
+
 
 }  // namespace sse
 }  // namespace veks
