@@ -37,19 +37,85 @@ inline float refinedQuotient(float n, float d) {
     return q0 + (q0 * e + q0) * e;
 }
 
+// q0 + (q0 * e + q0) * e
+inline __m128 refinement(__m128 q0, __m128 e) { return _mm_add_ps(q0, _mm_mul_ps(_mm_add_ps(_mm_mul_ps(q0, e), q0), e)); }
+
 // The vector form also gives e, whose lanes are NaN where d is zero
 // (the estimate of 1 / 0 is infinite, and 0 * inf is NaN).
 inline __m128 refinedQuotient(__m128 n, __m128 d, __m128* err) {
     const __m128 r = _mm_rcp_ps(d);
     const __m128 e = _mm_sub_ps(_mm_set1_ps(1.0f), _mm_mul_ps(d, r));
-    const __m128 q0 = _mm_mul_ps(n, r);
     *err = e;
-    return _mm_add_ps(q0, _mm_mul_ps(_mm_add_ps(_mm_mul_ps(q0, e), q0), e));
+    return refinement(_mm_mul_ps(n, r), e);
 }
 inline __m128 refinedQuotient(__m128 n, __m128 d) {
     __m128 e;
     return refinedQuotient(n, d, &e);
 }
+
+// Four blocks of refined quotients, b[j] / a[j] for j < 16, stored at d; the
+// or of their e terms joins *bits. Every stage is done for the four blocks
+// before the next. On x86_64 the order of the instructions is fixed here:
+// the compiler's own schedule of these very operations (the same in number
+// and kind) ran from 1.12x to 1.22x the time of a plain division loop,
+// depending on small changes around the loop, this one 1.09x. The five
+// multiplications and the estimate per block all need the two multiplier
+// pipes, so the quotient cannot run faster than about 1.08x a division;
+// any slack in the schedule shows at once. Elsewhere (eight registers are
+// too few for the four blocks) the stages are written in C++ in the same
+// order.
+inline void refinedStep16(const float* a, const float* b, float* d, __m128 one, __m128* bits) {
+#if defined(__x86_64__)
+    __m128 d0, d1, d2, d3, r0, r1, r2, r3, e0, e1, e2, e3;
+    __asm__ volatile(
+        "movups   (%[a]), %[d0]\n\t"
+        "movups 16(%[a]), %[d1]\n\t"
+        "movups 32(%[a]), %[d2]\n\t"
+        "movups 48(%[a]), %[d3]\n\t"
+        "rcpps %[d0], %[r0]\n\t"
+        "rcpps %[d1], %[r1]\n\t"
+        "rcpps %[d2], %[r2]\n\t"
+        "rcpps %[d3], %[r3]\n\t"
+        // e = 1 - divisor * r
+        "mulps %[r0], %[d0]\n\t" "movaps %[one], %[e0]\n\t" "subps %[d0], %[e0]\n\t"
+        "mulps %[r1], %[d1]\n\t" "movaps %[one], %[e1]\n\t" "subps %[d1], %[e1]\n\t"
+        "mulps %[r2], %[d2]\n\t" "movaps %[one], %[e2]\n\t" "subps %[d2], %[e2]\n\t"
+        "mulps %[r3], %[d3]\n\t" "movaps %[one], %[e3]\n\t" "subps %[d3], %[e3]\n\t"
+        // q0 = dividend * r, in place of r
+        "movups   (%[b]), %[d0]\n\t" "mulps %[d0], %[r0]\n\t"
+        "movups 16(%[b]), %[d1]\n\t" "mulps %[d1], %[r1]\n\t"
+        "movups 32(%[b]), %[d2]\n\t" "mulps %[d2], %[r2]\n\t"
+        "movups 48(%[b]), %[d3]\n\t" "mulps %[d3], %[r3]\n\t"
+        // q = q0 + (q0 * e + q0) * e
+        "movaps %[r0], %[d0]\n\t" "mulps %[e0], %[d0]\n\t" "addps %[r0], %[d0]\n\t" "mulps %[e0], %[d0]\n\t"
+        "orps %[e1], %[e0]\n\t" "addps %[r0], %[d0]\n\t" "movups %[d0], (%[d])\n\t"
+        "movaps %[r1], %[d1]\n\t" "mulps %[e1], %[d1]\n\t" "addps %[r1], %[d1]\n\t" "mulps %[e1], %[d1]\n\t"
+        "addps %[r1], %[d1]\n\t" "movups %[d1], 16(%[d])\n\t"
+        "movaps %[r2], %[d2]\n\t" "mulps %[e2], %[d2]\n\t" "addps %[r2], %[d2]\n\t" "mulps %[e2], %[d2]\n\t"
+        "orps %[e3], %[e2]\n\t" "orps %[e2], %[e0]\n\t" "orps %[e0], %[bits]\n\t"
+        "addps %[r2], %[d2]\n\t" "movups %[d2], 32(%[d])\n\t"
+        "movaps %[r3], %[d3]\n\t" "mulps %[e3], %[d3]\n\t" "addps %[r3], %[d3]\n\t" "mulps %[e3], %[d3]\n\t"
+        "addps %[r3], %[d3]\n\t" "movups %[d3], 48(%[d])\n\t"
+        : [bits] "+x"(*bits), [d0] "=&x"(d0), [d1] "=&x"(d1), [d2] "=&x"(d2), [d3] "=&x"(d3), [r0] "=&x"(r0),
+          [r1] "=&x"(r1), [r2] "=&x"(r2), [r3] "=&x"(r3), [e0] "=&x"(e0), [e1] "=&x"(e1), [e2] "=&x"(e2),
+          [e3] "=&x"(e3)
+        : [a] "r"(a), [b] "r"(b), [d] "r"(d), [one] "x"(one)
+        : "memory");
+#else
+    __m128 dv[4], r[4], e[4], q0[4];
+    for (int k = 0; k < 4; ++k) dv[k] = _mm_loadu_ps(a + 4 * k);
+    for (int k = 0; k < 4; ++k) r[k] = _mm_rcp_ps(dv[k]);
+    for (int k = 0; k < 4; ++k) e[k] = _mm_sub_ps(one, _mm_mul_ps(dv[k], r[k]));
+    for (int k = 0; k < 4; ++k) q0[k] = _mm_mul_ps(_mm_loadu_ps(b + 4 * k), r[k]);
+    for (int k = 0; k < 4; ++k) _mm_storeu_ps(d + 4 * k, refinement(q0[k], e[k]));
+    *bits = _mm_or_ps(*bits, _mm_or_ps(_mm_or_ps(e[0], e[1]), _mm_or_ps(e[2], e[3])));
+#endif
+}
+
+// Sixteen dividends from j on: the source itself, or a constant repeated
+// in `row`.
+inline const float* dividendRow(Arr<float> s, int j, const float*) { return s.p + j; }
+inline const float* dividendRow(Bcast<float>, int, const float* row) { return row; }
 
 // Whether a source vector shares memory with the n elements at d.
 inline bool overlaps(Arr<float> s, const float* d, int n) {
@@ -73,7 +139,7 @@ inline bool overlaps(Bcast<float>, const float*, int) { return false; }
 template <class SD, class SN>
 inline bool divide32fLoop(SD divisor, SN dividend, float* d, int n) {
     constexpr int K = 4;
-    const __m128 zero = _mm_setzero_ps();
+    const __m128 zero = _mm_setzero_ps(), one = _mm_set1_ps(1.0f);
     const int whole = n & ~3;
     int zeroMask = 0;
     auto checked = [&](int j) {
@@ -86,13 +152,16 @@ inline bool divide32fLoop(SD divisor, SN dividend, float* d, int n) {
     int i = 0;
     if (!overlaps(divisor, d, n) && !overlaps(dividend, d, n)) {
         __m128 bits = zero;
-        auto optimistic = [&](int j) {
+        alignas(16) float row[16];
+        if constexpr (std::is_same<SN, Bcast<float>>::value) {
+            for (float& v : row) v = dividend.v;
+        }
+        for (; i + 16 <= whole; i += 16) refinedStep16(divisor.p + i, dividendRow(dividend, i, row), d + i, one, &bits);
+        for (; i < whole; i += 4) {
             __m128 e;
-            _mm_storeu_ps(d + j, refinedQuotient(vload(dividend, j), vload(divisor, j), &e));
+            _mm_storeu_ps(d + i, refinedQuotient(vload(dividend, i), vload(divisor, i), &e));
             bits = _mm_or_ps(bits, e);
-        };
-        for (; i + 4 * K <= whole; i += 4 * K) eachBlock<K, 4>(optimistic, i);
-        for (; i < whole; i += 4) optimistic(i);
+        }
         if (_mm_movemask_ps(_mm_cmpunord_ps(bits, bits))) {
             for (i = 0; i < whole; i += 4) checked(i);
         }
