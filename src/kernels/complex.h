@@ -134,24 +134,21 @@ void polarToCart32f(const T32f* pMagn, const T32f* pPhase, Dst dst, size_t n) {
     for (; i + 4 * G <= n; i += 4 * G) {
         __m128 ph[G], s[G], c[G];
         for (size_t g = 0; g < G; ++g) ph[g] = _mm_loadu_ps(pPhase + i + 4 * g);
-        if (sinCosOutOfRangeAny<G>(ph)) {
+        if (sincosvGroups<G>(ph, s, c)) {
             polarToCart32fScalar(pMagn, pPhase, dst, i, i + 4 * G);
             continue;
         }
-        sincosvGroups<G>(ph, s, c);
         __m128 mg[G];
         for (size_t g = 0; g < G; ++g) mg[g] = _mm_loadu_ps(pMagn + i + 4 * g);
         for (size_t g = 0; g < G; ++g) dst.store4(i + 4 * g, _mm_mul_ps(mg[g], c[g]), _mm_mul_ps(mg[g], s[g]));
     }
     for (; i + 4 <= n; i += 4) {
-        const __m128 ph = _mm_loadu_ps(pPhase + i);
-        if (sinCosOutOfRange(ph)) {
+        __m128 s, c;
+        if (sincosv(_mm_loadu_ps(pPhase + i), &s, &c)) {
             polarToCart32fScalar(pMagn, pPhase, dst, i, i + 4);
             continue;
         }
         const __m128 mg = _mm_loadu_ps(pMagn + i);
-        __m128 s, c;
-        sincosv(ph, &s, &c);
         dst.store4(i, _mm_mul_ps(mg, c), _mm_mul_ps(mg, s));
     }
     polarToCart32fScalar(pMagn, pPhase, dst, i, n);

@@ -9,8 +9,10 @@
 //                    inputs, special cases as the C library's atan2
 //                    (signed zeros give +-0 or +-pi, infinities the
 //                    multiples of pi/4); NaN in, NaN out.
-//   sincosv / sincoss at most 2 ulp for |x| <= kSinCosLimit (reduction by
-//                    pi/2 in four parts, exact products); beyond it, and for
+//   sincosv / sincoss at most 2 ulp where the nearest multiple k of pi/2
+//                    is at most kSinCosMaxQuadrant (|x| up to about
+//                    4097.4; reduction by pi/2 in four parts, exact
+//                    products); beyond it, and for
 //                    infinities and NaN, the lanes take the double-precision
 //                    sincosd of math_f64.h rounded to single.
 #pragma once
@@ -184,20 +186,26 @@ struct SinCosConsts {
     static constexpr float k3 = 2.443315711809948e-5f;
 };
 
-// Largest |x| for the polynomial path: k stays below 2^12.
-constexpr float kSinCosLimit = 4096.0f;
+// Largest k = nearest integer to |x| * 2/pi on the polynomial path (that of
+// |x| = 4096; the reduction's products are exact for k below 2^12). The
+// range is told by k rather than by |x| because the vector path has k at
+// hand: one unsigned maximum per group tests it, NaN and infinities
+// included (their conversion gives 0x80000000).
+constexpr int kSinCosMaxQuadrant = 2608;
 
 struct SinCosLanes {
-    Splat twoOverPi, c1, c2, c3, c4, s1, s2, s3, k1, k2, k3, half, one, signMask, limit;
+    Splat twoOverPi, c1, c2, c3, c4, s1, s2, s3, k1, k2, k3, half, one, signMask;
 };
 inline constexpr SinCosLanes kSinCosLanes = {
     SinCosConsts::twoOverPi, SinCosConsts::c1, SinCosConsts::c2, SinCosConsts::c3, SinCosConsts::c4,
     SinCosConsts::s1,        SinCosConsts::s2, SinCosConsts::s3, SinCosConsts::k1, SinCosConsts::k2,
-    SinCosConsts::k3,        0.5f,             1.0f,             -0.0f,            kSinCosLimit};
+    SinCosConsts::k3,        0.5f,             1.0f,             -0.0f};
 
 
 
-inline bool sinCosInRange(float x) { return fabsf(x) <= kSinCosLimit; }
+inline bool sinCosInRange(float x) {
+    return __builtin_roundevenf(fabsf(x) * SinCosConsts::twoOverPi) <= static_cast<float>(kSinCosMaxQuadrant);
+}
 
 inline void sincoss(float x, float* s, float* c) {
     using C = SinCosConsts;
@@ -234,38 +242,29 @@ inline void sincoss(float x, float* s, float* c) {
     *c = ((k + 1) & 2) ? -co : co;
 }
 
-// Whether any lane of G groups is beyond kSinCosLimit (or NaN), with one
-// mask test.
-template <size_t G>
-inline int sinCosOutOfRangeAny(const __m128* x) {
-    const SinCosLanes& V = *opaque(&kSinCosLanes);
-    __m128 far = _mm_cmpnle_ps(_mm_andnot_ps(V.signMask(), x[0]), V.limit());
-    for (size_t g = 1; g < G; ++g) far = _mm_or_ps(far, _mm_cmpnle_ps(_mm_andnot_ps(V.signMask(), x[g]), V.limit()));
-    return _mm_movemask_ps(far);
-}
-
-// Lanes whose |x| is beyond kSinCosLimit (or NaN) need the scalar path.
-inline int sinCosOutOfRange(__m128 x) {
-    const SinCosLanes& V = *opaque(&kSinCosLanes);
-    const __m128 ax = _mm_andnot_ps(V.signMask(), x);
-    return _mm_movemask_ps(_mm_cmpnle_ps(ax, V.limit()));
-}
-
 // Sine and cosine of G groups of four lanes, every step done for all groups
 // before the next. The chains are long (about 45 cycles); written group
 // after group, the processor's window holds little more than two of them at
-// a time, while interleaved all G advance together. Valid for lanes in
-// range; callers check sinCosOutOfRange first.
+// a time, while interleaved all G advance together. Returns whether any
+// lane is out of range (sinCosInRange false), and then leaves s and c
+// unwritten: the caller takes the scalar path.
 template <size_t G>
-inline void sincosvGroups(const __m128* x, __m128* s, __m128* c) {
+inline int sincosvGroups(const __m128* x, __m128* s, __m128* c) {
     const SinCosLanes& V = *opaque(&kSinCosLanes);
-    __m128 ax[G], kf[G], r[G], z[G], z2[G], sr[G], cr[G];
+    __m128 kf[G], r[G], z[G], z2[G], sr[G], cr[G];
     __m128i k[G];
-    for (size_t g = 0; g < G; ++g) ax[g] = _mm_andnot_ps(V.signMask(), x[g]);
-    for (size_t g = 0; g < G; ++g)
-        kf[g] = _mm_round_ps(_mm_mul_ps(ax[g], V.twoOverPi()), _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
-    for (size_t g = 0; g < G; ++g) k[g] = _mm_cvtps_epi32(kf[g]);
-    for (size_t g = 0; g < G; ++g) r[g] = _mm_sub_ps(ax[g], _mm_mul_ps(kf[g], V.c1()));
+    for (size_t g = 0; g < G; ++g) {
+        const __m128 ax = _mm_andnot_ps(V.signMask(), x[g]);
+        kf[g] = _mm_round_ps(_mm_mul_ps(ax, V.twoOverPi()), _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
+        k[g] = _mm_cvtps_epi32(kf[g]);
+        r[g] = _mm_sub_ps(ax, _mm_mul_ps(kf[g], V.c1()));
+    }
+    {
+        __m128i kMax = k[0];
+        for (size_t g = 1; g < G; ++g) kMax = _mm_max_epu32(kMax, k[g]);
+        const __m128i beyond = _mm_set1_epi32(kSinCosMaxQuadrant + 1);
+        if (const int out = _mm_movemask_epi8(_mm_cmpeq_epi32(_mm_max_epu32(kMax, beyond), kMax))) return out;
+    }
     for (size_t g = 0; g < G; ++g) r[g] = _mm_sub_ps(r[g], _mm_mul_ps(kf[g], V.c2()));
     for (size_t g = 0; g < G; ++g) r[g] = _mm_sub_ps(r[g], _mm_mul_ps(kf[g], V.c3()));
     for (size_t g = 0; g < G; ++g) r[g] = _mm_sub_ps(r[g], _mm_mul_ps(kf[g], V.c4()));
@@ -288,9 +287,10 @@ inline void sincosvGroups(const __m128* x, __m128* s, __m128* c) {
         s[g] = _mm_xor_ps(so, _mm_xor_ps(quadrant, _mm_and_ps(x[g], V.signMask())));
         c[g] = _mm_xor_ps(co, _mm_xor_ps(quadrant, odd));
     }
+    return 0;
 }
 
-inline void sincosv(__m128 x, __m128* s, __m128* c) { sincosvGroups<1>(&x, s, c); }
+inline int sincosv(__m128 x, __m128* s, __m128* c) { return sincosvGroups<1>(&x, s, c); }
 
 }  // namespace kern
 }  // namespace veks

@@ -13,7 +13,9 @@
 namespace {
 
 constexpr int64_t kKernelMaxUlp = 2;
-constexpr uint32_t kTop = 0x45800000u;  // 4096.0f, the end of the polynomial range
+// 4097.5f: the polynomial range ends near 4097.4 (where the nearest multiple
+// of pi/2 passes 2608), so the sweeps cross its end.
+constexpr uint32_t kTop = 0x45800C00u;
 
 float fromBits(uint32_t b) {
     float f;
@@ -37,9 +39,11 @@ std::pair<int64_t, int64_t> sinCosError(uint32_t from, uint32_t to, uint32_t str
 }
 
 TEST(KernelAccuracy, SineCosineSweep) {
-    // A stride over every bit pattern up to 4096 and every float around the
+    // A stride over every bit pattern up to 4097.5, every float around the
+    // end of the polynomial range, and every float around the
     // first zeros of cosine and sine.
     std::vector<T32f> near;
+    for (uint32_t b = 0x45800000u; b <= kTop; ++b) near.push_back(fromBits(b));
     for (float centre : {1.5707964f, 3.1415927f, 4.712389f, 6.2831855f}) {
         uint32_t c;
         memcpy(&c, &centre, 4);

@@ -27,7 +27,7 @@ void polarData(vt::Rng& rng, size_t n, double range, std::vector<B>& magn, std::
     magn = rng.vec<B>(n, -100, 100);
     phase = rng.vec<B>(n, -range, range);
     const B specials[] = {0.0f, -0.0f, 1.5707964f, -1.5707964f, 3.1415927f, 4.712389f, 1e5f, -3e7f,
-                          4096.0f, -4096.0f, 4097.0f, INFINITY, NAN};
+                          4096.0f, -4096.0f, 4097.375f, -4097.5f, INFINITY, NAN};
     for (size_t i = 2; i < n; i += 13) phase[i] = specials[(i / 13) % (sizeof specials / sizeof specials[0])];
 }
 
