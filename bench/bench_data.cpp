@@ -275,6 +275,14 @@ void Set16(benchmark::State& st) {
 }
 BENCHMARK(Set16)->Apply(byteSizes)->Name("Paired_Set64fc_memset");
 
+void Set8(benchmark::State& st) {
+    const size_t bytes = static_cast<size_t>(st.range(0)), mis = static_cast<size_t>(st.range(1));
+    vb::Buf<unsigned char> a(bytes, mis);
+    race(st, bytes, [&] { veksSet_64f(1.5, reinterpret_cast<T64f*>(a.p), int(bytes / 8)); },
+         [&] { memset(a.p, 0x3F, bytes); });
+}
+BENCHMARK(Set8)->Apply(byteSizes)->Name("Paired_Set64f_memset");
+
 void Zero(benchmark::State& st) {
     const size_t bytes = static_cast<size_t>(st.range(0)), mis = static_cast<size_t>(st.range(1));
     vb::Buf<unsigned char> a(bytes, mis);

@@ -137,7 +137,8 @@ inline void fillPatternScalar(void* dst, const void* pattern, size_t count) {
 // stores bypass them.
 constexpr size_t kStreamingFillBytes = size_t(32) << 20;
 
-// From kPatternDoubling bytes up to the streaming size a pattern fill writes
+// From kPatternDoubling bytes up to the streaming size a pattern fill that
+// has no string fill of its width (16 bytes; 8 bytes on 32-bit x86) writes
 // one block of kPatternBlock bytes, doubles it up to kPatternSource bytes and
 // copies that source along.
 constexpr size_t kPatternBlock = kSmallBytes;
@@ -155,6 +156,22 @@ inline void fillWide(unsigned char* d, int32_t unit, size_t n) {
     if (n & 2) memcpy(d + n - 2, &unit, 2);
 }
 
+// The processor's string fill (rep stos) of `count` 4- or 8-byte units, the
+// fill memset itself uses from a few kilobytes on: it keeps pace with memset
+// at every size. The wide fill above is faster up to the size of the
+// second-level cache (0.6x memset) but trails it by 10 to 20 % beyond, so 4-byte
+// units take the string fill from kStringFillFrom bytes on.
+constexpr size_t kStringFillFrom = size_t(1) << 20;
+
+inline void fillString4(unsigned char* d, uint32_t unit, size_t count) {
+    __asm__ volatile("rep stosl" : "+D"(d), "+c"(count) : "a"(unit) : "memory");
+}
+#if defined(__x86_64__)
+inline void fillString8(unsigned char* d, uint64_t unit, size_t count) {
+    __asm__ volatile("rep stosq" : "+D"(d), "+c"(count) : "a"(unit) : "memory");
+}
+#endif
+
 // `first` holds the W-byte pattern repeated over 16 bytes.
 template <size_t W>
 __attribute__((noinline)) void fillPatternLarge(unsigned char* d, __m128i first, size_t n);
@@ -170,10 +187,39 @@ inline void fillPattern(void* dst, __m128i first, size_t count) {
     }
     if constexpr (W <= 4) {
         if ((reinterpret_cast<uintptr_t>(d) & 3) == 0 && n < kStreamingFillBytes) {
-            fillWide(d, _mm_cvtsi128_si32(first), n);
+            const int32_t unit = _mm_cvtsi128_si32(first);
+            if (n >= kStringFillFrom) {
+                fillString4(d, static_cast<uint32_t>(unit), n / 4);
+                if (n & 2) memcpy(d + n - 2, &unit, 2);
+            } else {
+                fillWide(d, unit, n);
+            }
             return;
         }
     }
+#if defined(__x86_64__)
+    if constexpr (W == 8) {
+        if (n >= kPatternDoubling && n < kStreamingFillBytes) {
+            // The string fill runs a third slower from a start that is not
+            // 64-byte aligned: the bytes before the next line are stored
+            // directly, and the string fill starts there with the pattern
+            // rotated to the byte of the element found at that line; the
+            // few bytes after its last whole unit continue the rotated
+            // pattern. (Stores into the string fill's own range, even of
+            // the same bytes, slowed 4-KiB fills by a third.)
+            const size_t head = (64 - (reinterpret_cast<uintptr_t>(d) & 63)) & 63;
+            const size_t wholeHead = head & ~size_t(7);
+            if (wholeHead) fillSmall(d, first, wholeHead);
+            uint64_t unit = static_cast<uint64_t>(_mm_cvtsi128_si64(first));
+            memcpy(d + wholeHead, &unit, head % 8);
+            if (const unsigned rot = 8 * (head % 8)) unit = (unit >> rot) | (unit << (64 - rot));
+            const size_t units = (n - head) / 8;
+            fillString8(d + head, unit, units);
+            memcpy(d + head + 8 * units, &unit, (n - head) % 8);
+            return;
+        }
+    }
+#endif
     // Out of line: the registers the large fills need are then saved only
     // on their own path, not on every small fill.
     fillPatternLarge<W>(d, first, n);

@@ -87,4 +87,39 @@ TEST(CopyMoveSetZero, LargeFillsKeepFloatBits) {
              std::vector<T64fc>(n64, v), 1);
 }
 
+// Large fills at byte offsets the element types allow but the guarded
+// buffers do not reach (a 4-byte offset within 8-byte elements), across the
+// sizes where a fill changes method: each element must hold the value's
+// bytes, and nothing outside may change.
+template <class T>
+void fillAtOffset(VekResult (*set)(T, T*, int), T val, size_t offset, size_t count) {
+    constexpr size_t kGuard = 64;
+    std::vector<unsigned char> buf(count * sizeof(T) + offset + 2 * kGuard + 64, 0xA5);
+    unsigned char* base = buf.data() + ((64 - reinterpret_cast<uintptr_t>(buf.data()) % 64) % 64) + kGuard;
+    unsigned char* d = base + offset;
+    ASSERT_EQ(set(val, reinterpret_cast<T*>(d), static_cast<int>(count)), VEK_OK);
+    for (size_t i = 0; i < count; ++i)
+        ASSERT_EQ(memcmp(d + i * sizeof(T), &val, sizeof(T)), 0) << "element " << i << " of " << count;
+    for (unsigned char* g = buf.data(); g < d; ++g) ASSERT_EQ(*g, 0xA5);
+    for (unsigned char* g = d + count * sizeof(T); g < buf.data() + buf.size(); ++g) ASSERT_EQ(*g, 0xA5);
+}
+
+TEST(CopyMoveSetZero, LargeFillsAtEveryOffset) {
+    const T32f f = -1.25f;
+    const T16s h = -12345;
+    const T64f g = -3.0e-300;
+    const T32fc c = {1.5f, -0.0f};
+    for (size_t bytes : {size_t(2048), size_t(2056), size_t(4104), (size_t(1) << 20) - 8, size_t(1) << 20,
+                         (size_t(1) << 20) + 8, (size_t(4) << 20) - 8, size_t(4) << 20}) {
+        SCOPED_TRACE("bytes " + std::to_string(bytes));
+        for (size_t offset : {0, 4, 8, 12, 60}) {
+            fillAtOffset(veksSet_32f, f, offset, bytes / 4);
+            fillAtOffset(veksSet_64f, g, offset, bytes / 8);
+            fillAtOffset(veksSet_32fc, c, offset, bytes / 8);
+        }
+        for (size_t offset : {0, 2, 6})
+            fillAtOffset(veksSet_16s, h, offset, bytes / 2 + 1);  // a 2-byte remainder
+    }
+}
+
 }  // namespace
