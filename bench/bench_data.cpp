@@ -258,30 +258,20 @@ void Move(benchmark::State& st) {
 }
 BENCHMARK(Move)->Apply(byteSizes)->Name("Paired_Move32f_memmove");
 
-void Set(benchmark::State& st) {
+// veksSet of one value of T against memset of the same bytes.
+template <class T>
+void setAgainstMemset(benchmark::State& st, VekResult (*set)(T, T*, int), T val) {
     const size_t bytes = static_cast<size_t>(st.range(0)), mis = static_cast<size_t>(st.range(1));
     vb::Buf<unsigned char> a(bytes, mis);
-    race(st, bytes, [&] { veksSet_32f(1.5f, reinterpret_cast<T32f*>(a.p), int(bytes / 4)); },
+    race(st, bytes, [&] { set(val, reinterpret_cast<T*>(a.p), int(bytes / sizeof(T))); },
          [&] { memset(a.p, 0x3F, bytes); });
 }
+void Set(benchmark::State& st) { setAgainstMemset<T32f>(st, veksSet_32f, 1.5f); }
 BENCHMARK(Set)->Apply(byteSizes)->Name("Paired_Set32f_memset");
-
-void Set16(benchmark::State& st) {
-    const size_t bytes = static_cast<size_t>(st.range(0)), mis = static_cast<size_t>(st.range(1));
-    vb::Buf<unsigned char> a(bytes, mis);
-    const T64fc v = {1.5, -2.5};
-    race(st, bytes, [&] { veksSet_64fc(v, reinterpret_cast<T64fc*>(a.p), int(bytes / 16)); },
-         [&] { memset(a.p, 0x3F, bytes); });
-}
-BENCHMARK(Set16)->Apply(byteSizes)->Name("Paired_Set64fc_memset");
-
-void Set8(benchmark::State& st) {
-    const size_t bytes = static_cast<size_t>(st.range(0)), mis = static_cast<size_t>(st.range(1));
-    vb::Buf<unsigned char> a(bytes, mis);
-    race(st, bytes, [&] { veksSet_64f(1.5, reinterpret_cast<T64f*>(a.p), int(bytes / 8)); },
-         [&] { memset(a.p, 0x3F, bytes); });
-}
+void Set8(benchmark::State& st) { setAgainstMemset<T64f>(st, veksSet_64f, 1.5); }
 BENCHMARK(Set8)->Apply(byteSizes)->Name("Paired_Set64f_memset");
+void Set16(benchmark::State& st) { setAgainstMemset<T64fc>(st, veksSet_64fc, T64fc{1.5, -2.5}); }
+BENCHMARK(Set16)->Apply(byteSizes)->Name("Paired_Set64fc_memset");
 
 void Zero(benchmark::State& st) {
     const size_t bytes = static_cast<size_t>(st.range(0)), mis = static_cast<size_t>(st.range(1));
