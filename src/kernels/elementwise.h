@@ -486,8 +486,10 @@ inline void narrowProductLoop(S1 a, S2 b, T* d, int n, int sf) {
 
 // ---- products of 32-bit integers in 64-bit lanes -----------------------------
 //
-// pmuldq gives the exact products of the even lanes; sse::ProductRound64
-// rounds them by the rule and sse::saturate64to32 narrows them.
+// pmuldq gives the exact products of the even lanes. For 0 <= sf <= 31
+// sse::ProductScale32 rounds and narrows them in one go, helped by the low
+// halves of all four products (pmulld); larger scale factors go through
+// sse::ProductRound64 and sse::saturate64to32.
 
 // The odd elements of a source moved to the even lanes (a repeated value is
 // there already).
@@ -507,10 +509,32 @@ constexpr bool product32Form() {
            std::is_same<E2, T32s>::value && plain;
 }
 
-// d[i] = scaleSat(a[i] * b[i], sf) for 0 <= sf <= 62 (sf = 0 without Round).
-template <bool Round, class S1, class S2>
+// d[i] = scaleSat(a[i] * b[i], sf) for 0 <= sf <= 31. The odd elements reach
+// the even lanes through a load one element further on while that stays
+// inside the sources, else through a shift.
+template <class S1, class S2>
 inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
-    const sse::ProductRound64<Round> r(sf);
+    const sse::ProductScale32 r(sf);
+    auto four = [&](__m128i x, __m128i y, __m128i xo, __m128i yo) {
+        return r.apply(_mm_mul_epi32(x, y), _mm_mul_epi32(xo, yo), _mm_mullo_epi32(x, y), _mm_xor_si128(x, y));
+    };
+    int i = 0;
+    for (; i + 4 < n; i += 4) {
+        const __m128i x = sload(a, i), y = sload(b, i);
+        sse::storeu(d + i, four(x, y, sload(a, i + 1), sload(b, i + 1)));
+    }
+    if (i + 4 <= n) {
+        const __m128i x = sload(a, i), y = sload(b, i);
+        sse::storeu(d + i, four(x, y, oddLanes<S1>(x), oddLanes<S2>(y)));
+        i += 4;
+    }
+    for (; i < n; ++i) d[i] = scaleSat<T32s>(int64_t(at(a, i)) * at(b, i), sf);
+}
+
+// d[i] = scaleSat(a[i] * b[i], sf) for 32 <= sf <= 62.
+template <class S1, class S2>
+inline void product32WideLoop(S1 a, S2 b, T32s* d, int n, int sf) {
+    const sse::ProductRound64<true> r(sf);
     int i = 0;
     for (; i + 4 <= n; i += 4) {
         const __m128i x = sload(a, i), y = sload(b, i);
@@ -536,8 +560,8 @@ inline void intLoop(S1 a, S2 b, TD* d, int n, int sf) {
         if (sf >= 1 && sf <= 15) return narrowProductLoop<true, TD>(a, b, d, n, sf);
     }
     if constexpr (product32Form<Op, TD, S1, S2>()) {
-        if (sf == 0) return product32Loop<false>(a, b, d, n, sf);
-        if (sf >= 1 && sf <= 62) return product32Loop<true>(a, b, d, n, sf);
+        if (sse::ProductScale32::covers(sf)) return product32Loop(a, b, d, n, sf);
+        if (sf >= 32 && sf <= 62) return product32WideLoop(a, b, d, n, sf);
     }
     if constexpr (Op::kVecInt && std::is_same<TD, T32s>::value && DoubleLanes<S1>::value && DoubleLanes<S2>::value &&
                   Op::magBits(8 * sizeof(typename S1::Elem) - 1, 8 * sizeof(typename S2::Elem) - 1) <= 52) {

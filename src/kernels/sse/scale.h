@@ -200,6 +200,60 @@ inline __m128i saturate64to32(__m128i ev, __m128i od) {
     return _mm_blendv_epi8(sat, lows, fits);
 }
 
+// The rule on exact products p of two 32-bit integers (|p| <= 2^62) for
+// 0 <= sf <= 31, with 32-bit results, in fewer steps than ProductRound64 and
+// saturate64to32. Let h = 2^(sf-1) (0 for sf = 0), q = floor(p / 2^sf) and
+// R = p - q * 2^sf.
+// - Range bias. u = p + 2^(31+sf) + h in 64 bits. u >= -2^62 and
+//   u <= 2^62 + 2^62 + 2^30 < 2^64, so u wraps only where it is negative.
+//   Adding a multiple of 2^sf commutes with the floor: for u >= 0 the
+//   logical shift gives v = u >> sf = floor((p + h) / 2^sf) + 2^31
+//   = t + 2^31, with t the quotient rounded half up.
+// - Saturation. t fits 32 bits exactly where 0 <= v < 2^32, i.e. where the
+//   high half of v is 0. If t > 2^31 - 1, v >= 2^32 (no wrap, u < 2^64).
+//   If t < -2^31, u < 0 wraps to at least 2^64 - 2^62, and v >= 3 * 2^31
+//   for sf <= 31. An out-of-range t has the sign of p (p = 0 fits), that
+//   of a xor b, and saturates to the end of the range on that side.
+// - Ties to even. The rule gives t - 1 exactly where R = h with q even,
+//   i.e. where the low sf + 1 bits of p equal h; sf + 1 <= 32, so the low
+//   32 bits of the product (pmulld, for all four elements) decide it
+//   (sf = 0 has no ties: mask 0 never equals 1). The step down never
+//   crosses a range end: it applies only where t = q + 1 is odd, and the
+//   ends of the biased range, 0 and 2^32, are even.
+// - The in-range result is the low half of v, minus the tie step, with the
+//   bias 2^31 removed by flipping the top bit.
+class ProductScale32 {
+public:
+    static bool covers(int sf) { return sf >= 0 && sf <= 31; }
+
+    explicit ProductScale32(int sf)
+        : cnt_(_mm_cvtsi32_si128(sf)),
+          bias_(_mm_set1_epi64x((int64_t(1) << (31 + sf)) + (sf > 0 ? int64_t(1) << (sf - 1) : 0))),
+          tieMask_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(~0u >> (31 - sf)) : 0)),
+          tie_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(1u << (sf - 1)) : 1)),
+          flip_(_mm_set1_epi32(INT32_MIN)) {}
+
+    // ev: exact products of elements 0 and 2 (pmuldq), od: of elements 1
+    // and 3; low: the low 32 bits of all four products (pmulld); sign: a
+    // lane per element whose sign bit is the product's sign (x ^ y).
+    // Results in element order.
+    __m128i apply(__m128i ev, __m128i od, __m128i low, __m128i sign) const {
+        const __m128i ve = _mm_srl_epi64(_mm_add_epi64(ev, bias_), cnt_);
+        const __m128i vo = _mm_srl_epi64(_mm_add_epi64(od, bias_), cnt_);
+        const __m128i lows = _mm_blend_epi16(ve, _mm_slli_epi64(vo, 32), 0xcc);
+        const __m128i highs = _mm_blend_epi16(_mm_srli_epi64(ve, 32), vo, 0xcc);
+        const __m128i down = _mm_cmpeq_epi32(_mm_and_si128(low, tieMask_), tie_);  // -1 where t steps down
+        // The range ends, biased like v: 2^32 - 1 (INT32_MAX) where the
+        // product is not negative, 0 (INT32_MIN) where it is.
+        const __m128i end = _mm_cmpgt_epi32(sign, _mm_set1_epi32(-1));
+        const __m128i fits = _mm_cmpeq_epi32(highs, _mm_setzero_si128());
+        return _mm_xor_si128(_mm_blendv_epi8(end, _mm_add_epi32(lows, down), fits), flip_);
+    }
+
+private:
+    __m128i cnt_, bias_, tieMask_, tie_, flip_;
+};
+
 
 }  // namespace sse
 }  // namespace veks
