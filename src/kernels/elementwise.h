@@ -519,6 +519,13 @@ inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
         return r.apply(_mm_mul_epi32(x, y), _mm_mul_epi32(xo, yo), _mm_mullo_epi32(x, y), _mm_xor_si128(x, y));
     };
     int i = 0;
+    for (; i + 8 < n; i += 8) {
+        const __m128i x0 = sload(a, i), y0 = sload(b, i), x1 = sload(a, i + 4), y1 = sload(b, i + 4);
+        const __m128i r0 = four(x0, y0, sload(a, i + 1), sload(b, i + 1));
+        const __m128i r1 = four(x1, y1, sload(a, i + 5), sload(b, i + 5));
+        sse::storeu(d + i, r0);
+        sse::storeu(d + i + 4, r1);
+    }
     for (; i + 4 < n; i += 4) {
         const __m128i x = sload(a, i), y = sload(b, i);
         sse::storeu(d + i, four(x, y, sload(a, i + 1), sload(b, i + 1)));

@@ -231,7 +231,12 @@ public:
           bias_(_mm_set1_epi64x((int64_t(1) << (31 + sf)) + (sf > 0 ? int64_t(1) << (sf - 1) : 0))),
           tieMask_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(~0u >> (31 - sf)) : 0)),
           tie_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(1u << (sf - 1)) : 1)),
-          flip_(_mm_set1_epi32(INT32_MIN)) {}
+          flip_(_mm_set1_epi32(INT32_MIN)),
+          minus1_(_mm_set1_epi32(-1)) {
+        // Hidden from the optimiser, which would rewrite "> -1" as ">= 0"
+        // in two instructions (pminsd, pcmpeqd).
+        __asm__("" : "+x"(minus1_));
+    }
 
     // ev: exact products of elements 0 and 2 (pmuldq), od: of elements 1
     // and 3; low: the low 32 bits of all four products (pmulld); sign: a
@@ -240,18 +245,19 @@ public:
     __m128i apply(__m128i ev, __m128i od, __m128i low, __m128i sign) const {
         const __m128i ve = _mm_srl_epi64(_mm_add_epi64(ev, bias_), cnt_);
         const __m128i vo = _mm_srl_epi64(_mm_add_epi64(od, bias_), cnt_);
-        const __m128i lows = _mm_blend_epi16(ve, _mm_slli_epi64(vo, 32), 0xcc);
-        const __m128i highs = _mm_blend_epi16(_mm_srli_epi64(ve, 32), vo, 0xcc);
+        // pshufd rather than 64-bit shifts: the same pipes, no register copy
+        const __m128i lows = _mm_blend_epi16(ve, _mm_shuffle_epi32(vo, _MM_SHUFFLE(2, 2, 0, 0)), 0xcc);
+        const __m128i highs = _mm_blend_epi16(_mm_shuffle_epi32(ve, _MM_SHUFFLE(3, 3, 1, 1)), vo, 0xcc);
         const __m128i down = _mm_cmpeq_epi32(_mm_and_si128(low, tieMask_), tie_);  // -1 where t steps down
         // The range ends, biased like v: 2^32 - 1 (INT32_MAX) where the
         // product is not negative, 0 (INT32_MIN) where it is.
-        const __m128i end = _mm_cmpgt_epi32(sign, _mm_set1_epi32(-1));
+        const __m128i end = _mm_cmpgt_epi32(sign, minus1_);
         const __m128i fits = _mm_cmpeq_epi32(highs, _mm_setzero_si128());
         return _mm_xor_si128(_mm_blendv_epi8(end, _mm_add_epi32(lows, down), fits), flip_);
     }
 
 private:
-    __m128i cnt_, bias_, tieMask_, tie_, flip_;
+    __m128i cnt_, bias_, tieMask_, tie_, flip_, minus1_;
 };
 
 
