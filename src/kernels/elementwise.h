@@ -487,8 +487,7 @@ inline void narrowProductLoop(S1 a, S2 b, T* d, int n, int sf) {
 // ---- products of 32-bit integers in 64-bit lanes -----------------------------
 //
 // pmuldq gives the exact products of the even lanes. For 0 <= sf <= 31
-// sse::ProductScale32 rounds and narrows them in one go, helped by the low
-// halves of all four products (pmulld); larger scale factors go through
+// sse::ProductScale32 rounds and narrows them in one go; larger scale factors go through
 // sse::ProductRound64 and sse::saturate64to32.
 
 // The odd elements of a source moved to the even lanes (a repeated value is
@@ -516,7 +515,7 @@ template <class S1, class S2>
 inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
     const sse::ProductScale32 r(sf);
     auto four = [&](__m128i x, __m128i y, __m128i xo, __m128i yo) {
-        return r.apply(_mm_mul_epi32(x, y), _mm_mul_epi32(xo, yo), _mm_mullo_epi32(x, y), _mm_xor_si128(x, y));
+        return r.apply(_mm_mul_epi32(x, y), _mm_mul_epi32(xo, yo));
     };
     int i = 0;
     for (; i + 8 < n; i += 8) {

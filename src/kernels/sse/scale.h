@@ -212,16 +212,18 @@ inline __m128i saturate64to32(__m128i ev, __m128i od) {
 // - Saturation. t fits 32 bits exactly where 0 <= v < 2^32, i.e. where the
 //   high half of v is 0. If t > 2^31 - 1, v >= 2^32 (no wrap, u < 2^64).
 //   If t < -2^31, u < 0 wraps to at least 2^64 - 2^62, and v >= 3 * 2^31
-//   for sf <= 31. An out-of-range t has the sign of p (p = 0 fits), that
-//   of a xor b, and saturates to the end of the range on that side.
+//   for sf <= 31. An out-of-range t has the sign of p (p = 0 fits), the
+//   sign bit of p's high half, and saturates to the end on that side.
 // - Ties to even. The rule gives t - 1 exactly where R = h with q even,
 //   i.e. where the low sf + 1 bits of p equal h; sf + 1 <= 32, so the low
-//   32 bits of the product (pmulld, for all four elements) decide it
-//   (sf = 0 has no ties: mask 0 never equals 1). The step down never
-//   crosses a range end: it applies only where t = q + 1 is odd, and the
-//   ends of the biased range, 0 and 2^32, are even.
+//   half of p decides it (sf = 0 has no ties: mask 0 never equals 1). The
+//   step down never crosses a range end: it applies only where t = q + 1
+//   is odd, and the ends of the biased range, 0 and 2^32, are even.
 // - The in-range result is the low half of v, minus the tie step, with the
 //   bias 2^31 removed by flipping the top bit.
+// Each 32-bit half needed (low and high of p, low and high of v) is
+// gathered for all four elements by one shufps, in the lane order 0, 2, 1,
+// 3; one pshufd restores the element order at the end.
 class ProductScale32 {
 public:
     static bool covers(int sf) { return sf >= 0 && sf <= 31; }
@@ -239,24 +241,27 @@ public:
     }
 
     // ev: exact products of elements 0 and 2 (pmuldq), od: of elements 1
-    // and 3; low: the low 32 bits of all four products (pmulld); sign: a
-    // lane per element whose sign bit is the product's sign (x ^ y).
-    // Results in element order.
-    __m128i apply(__m128i ev, __m128i od, __m128i low, __m128i sign) const {
+    // and 3. Results in element order.
+    __m128i apply(__m128i ev, __m128i od) const {
+        const __m128i pLow = lowHalves(ev, od), pHigh = highHalves(ev, od);
         const __m128i ve = _mm_srl_epi64(_mm_add_epi64(ev, bias_), cnt_);
         const __m128i vo = _mm_srl_epi64(_mm_add_epi64(od, bias_), cnt_);
-        // pshufd rather than 64-bit shifts: the same pipes, no register copy
-        const __m128i lows = _mm_blend_epi16(ve, _mm_shuffle_epi32(vo, _MM_SHUFFLE(2, 2, 0, 0)), 0xcc);
-        const __m128i highs = _mm_blend_epi16(_mm_shuffle_epi32(ve, _MM_SHUFFLE(3, 3, 1, 1)), vo, 0xcc);
-        const __m128i down = _mm_cmpeq_epi32(_mm_and_si128(low, tieMask_), tie_);  // -1 where t steps down
+        const __m128i down = _mm_cmpeq_epi32(_mm_and_si128(pLow, tieMask_), tie_);  // -1 where t steps down
         // The range ends, biased like v: 2^32 - 1 (INT32_MAX) where the
         // product is not negative, 0 (INT32_MIN) where it is.
-        const __m128i end = _mm_cmpgt_epi32(sign, minus1_);
-        const __m128i fits = _mm_cmpeq_epi32(highs, _mm_setzero_si128());
-        return _mm_xor_si128(_mm_blendv_epi8(end, _mm_add_epi32(lows, down), fits), flip_);
+        const __m128i end = _mm_cmpgt_epi32(pHigh, minus1_);
+        const __m128i fits = _mm_cmpeq_epi32(highHalves(ve, vo), _mm_setzero_si128());
+        const __m128i r = _mm_xor_si128(_mm_blendv_epi8(end, _mm_add_epi32(lowHalves(ve, vo), down), fits), flip_);
+        return _mm_shuffle_epi32(r, _MM_SHUFFLE(3, 1, 2, 0));
     }
 
 private:
+    static __m128i lowHalves(__m128i ev, __m128i od) {
+        return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(ev), _mm_castsi128_ps(od), _MM_SHUFFLE(2, 0, 2, 0)));
+    }
+    static __m128i highHalves(__m128i ev, __m128i od) {
+        return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(ev), _mm_castsi128_ps(od), _MM_SHUFFLE(3, 1, 3, 1)));
+    }
     __m128i cnt_, bias_, tieMask_, tie_, flip_, minus1_;
 };
 
