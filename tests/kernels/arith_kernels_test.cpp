@@ -225,7 +225,8 @@ TEST(ProductKernels, Int32MatchesScalarRule) {
     std::vector<int32_t> d(n);
     for (int sf = 0; sf <= 62; ++sf) {
         auto check = [&](auto b, const char* what) {
-            if (sf <= 31) kern::product32Loop(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
+            if (sse::ProductScale32::endFromHigh(sf)) kern::product32Loop<true>(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
+            else if (sf <= 31) kern::product32Loop<false>(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
             else kern::product32WideLoop(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
             for (int i = 0; i < n; ++i)
                 ASSERT_EQ(d[i], scaleSat<T32s>(int64_t(x1[i]) * kern::at(b, i), sf))

@@ -221,12 +221,20 @@ inline __m128i saturate64to32(__m128i ev, __m128i od) {
 //   is odd, and the ends of the biased range, 0 and 2^32, are even.
 // - The in-range result is the low half of v, minus the tie step, with the
 //   bias 2^31 removed by flipping the top bit.
+// - For 1 <= sf <= 30 the high half H of v alone tells the two overflows
+//   apart: if t > 2^31 - 1, u <= 2^62 + 2^(31+sf) + h and H <= 2^(30-sf);
+//   if t < -2^31, u wraps to more than 3 * 2^62 and H >= 3 * 2^(30-sf);
+//   so H <= 2^(30-sf) (signed compare: H < 2^31) picks INT32_MAX, which
+//   saves gathering the high half of p. (sf = 0: a wrapped H is negative;
+//   sf = 31: both overflows can give H = 1.)
 // Each 32-bit half needed (low and high of p, low and high of v) is
 // gathered for all four elements by one shufps, in the lane order 0, 2, 1,
 // 3; one pshufd restores the element order at the end.
 class ProductScale32 {
 public:
     static bool covers(int sf) { return sf >= 0 && sf <= 31; }
+    // The scale factors where H alone picks the range end.
+    static bool endFromHigh(int sf) { return sf >= 1 && sf <= 30; }
 
     explicit ProductScale32(int sf)
         : cnt_(_mm_cvtsi32_si128(sf)),
@@ -234,23 +242,27 @@ public:
           tieMask_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(~0u >> (31 - sf)) : 0)),
           tie_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(1u << (sf - 1)) : 1)),
           flip_(_mm_set1_epi32(INT32_MIN)),
-          minus1_(_mm_set1_epi32(-1)) {
+          minus1_(_mm_set1_epi32(-1)),
+          posEnd_(_mm_set1_epi32(sf >= 1 && sf <= 30 ? (1 << (30 - sf)) + 1 : 0)) {
         // Hidden from the optimiser, which would rewrite "> -1" as ">= 0"
         // in two instructions (pminsd, pcmpeqd).
         __asm__("" : "+x"(minus1_));
     }
 
     // ev: exact products of elements 0 and 2 (pmuldq), od: of elements 1
-    // and 3. Results in element order.
+    // and 3. Results in element order. EndFromHigh only where
+    // endFromHigh(sf).
+    template <bool EndFromHigh>
     __m128i apply(__m128i ev, __m128i od) const {
-        const __m128i pLow = lowHalves(ev, od), pHigh = highHalves(ev, od);
+        const __m128i pLow = lowHalves(ev, od);
         const __m128i ve = _mm_srl_epi64(_mm_add_epi64(ev, bias_), cnt_);
         const __m128i vo = _mm_srl_epi64(_mm_add_epi64(od, bias_), cnt_);
         const __m128i down = _mm_cmpeq_epi32(_mm_and_si128(pLow, tieMask_), tie_);  // -1 where t steps down
+        const __m128i vHigh = highHalves(ve, vo);
         // The range ends, biased like v: 2^32 - 1 (INT32_MAX) where the
         // product is not negative, 0 (INT32_MIN) where it is.
-        const __m128i end = _mm_cmpgt_epi32(pHigh, minus1_);
-        const __m128i fits = _mm_cmpeq_epi32(highHalves(ve, vo), _mm_setzero_si128());
+        const __m128i end = EndFromHigh ? _mm_cmpgt_epi32(posEnd_, vHigh) : _mm_cmpgt_epi32(highHalves(ev, od), minus1_);
+        const __m128i fits = _mm_cmpeq_epi32(vHigh, _mm_setzero_si128());
         const __m128i r = _mm_xor_si128(_mm_blendv_epi8(end, _mm_add_epi32(lowHalves(ve, vo), down), fits), flip_);
         return _mm_shuffle_epi32(r, _MM_SHUFFLE(3, 1, 2, 0));
     }
@@ -262,7 +274,7 @@ private:
     static __m128i highHalves(__m128i ev, __m128i od) {
         return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(ev), _mm_castsi128_ps(od), _MM_SHUFFLE(3, 1, 3, 1)));
     }
-    __m128i cnt_, bias_, tieMask_, tie_, flip_, minus1_;
+    __m128i cnt_, bias_, tieMask_, tie_, flip_, minus1_, posEnd_;
 };
 
 
