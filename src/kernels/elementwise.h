@@ -487,8 +487,8 @@ inline void narrowProductLoop(S1 a, S2 b, T* d, int n, int sf) {
 // ---- products of 32-bit integers in 64-bit lanes -----------------------------
 //
 // pmuldq gives the exact products of the even lanes. For 0 <= sf <= 31
-// sse::ProductScale32 rounds and narrows them in one go; larger scale factors go through
-// sse::ProductRound64 and sse::saturate64to32.
+// sse::ProductScale32 rounds and narrows them in one go; larger scale
+// factors go through sse::ProductRound64 and sse::saturate64to32.
 
 // The odd elements of a source moved to the even lanes (a repeated value is
 // there already).
@@ -510,7 +510,8 @@ constexpr bool product32Form() {
 
 // d[i] = scaleSat(a[i] * b[i], sf) for 0 <= sf <= 31. The odd elements reach
 // the even lanes through a load one element further on while that stays
-// inside the sources, else through a shift.
+// inside the sources, else through a shift. Every step loads before it
+// stores and reads nothing below its own elements, so d may be a source.
 template <bool EndFromHigh, class S1, class S2>
 inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
     const sse::ProductScale32 r(sf);
@@ -540,7 +541,7 @@ inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
 // d[i] = scaleSat(a[i] * b[i], sf) for 32 <= sf <= 62.
 template <class S1, class S2>
 inline void product32WideLoop(S1 a, S2 b, T32s* d, int n, int sf) {
-    const sse::ProductRound64<true> r(sf);
+    const sse::ProductRound64 r(sf);
     int i = 0;
     for (; i + 4 <= n; i += 4) {
         const __m128i x = sload(a, i), y = sload(b, i);

@@ -155,7 +155,7 @@ private:
 };
 
 // The rule's right shift (ties to even) of exact products s of two 32-bit
-// integers (|s| <= 2^62) held in 64-bit lanes. With
+// integers (|s| <= 2^62) held in 64-bit lanes, for 1 <= sf <= 62. With
 // u = s + 2^63 (the sign bit flipped) u is non-negative, so a logical shift
 // floors: floor(t / 2^sf) = ((t + 2^63) >> sf) - 2^(63-sf) for sf <= 63.
 // Ties to even: the rule's result is floor((s + 2^(sf-1) - 1 + odd) / 2^sf)
@@ -163,26 +163,21 @@ private:
 // below 3 * 2^62 + 2^61 < 2^64 for sf <= 62, so nothing wraps. The 64-bit
 // result fits 32 bits exactly where its high half is the sign of its low
 // half; else it saturates by the sign of the high half.
-template <bool Round>
 class ProductRound64 {
 public:
     explicit ProductRound64(int sf)
         : cnt_(_mm_cvtsi32_si128(sf)),
-          hm1_(_mm_set1_epi64x(Round ? (int64_t(1) << (sf - 1)) - 1 : 0)),
+          hm1_(_mm_set1_epi64x((int64_t(1) << (sf - 1)) - 1)),
           bit_(_mm_set1_epi64x(int64_t(1) << sf)),
           flip_(_mm_set1_epi64x(INT64_MIN)),
-          unbias_(_mm_set1_epi64x(Round ? int64_t(1) << (63 - sf) : 0)) {}
+          unbias_(_mm_set1_epi64x(int64_t(1) << (63 - sf))) {}
 
     // The rounded quotients of two exact products in 64-bit lanes.
     __m128i apply(__m128i s) const {
-        if constexpr (!Round) {
-            return s;
-        } else {
-            const __m128i u = _mm_xor_si128(s, flip_);
-            const __m128i odd = _mm_cmpeq_epi64(_mm_and_si128(u, bit_), bit_);  // -1 where odd
-            const __m128i t = _mm_sub_epi64(_mm_add_epi64(u, hm1_), odd);
-            return _mm_sub_epi64(_mm_srl_epi64(t, cnt_), unbias_);
-        }
+        const __m128i u = _mm_xor_si128(s, flip_);
+        const __m128i odd = _mm_cmpeq_epi64(_mm_and_si128(u, bit_), bit_);  // -1 where odd
+        const __m128i t = _mm_sub_epi64(_mm_add_epi64(u, hm1_), odd);
+        return _mm_sub_epi64(_mm_srl_epi64(t, cnt_), unbias_);
     }
 
 private:
