@@ -254,7 +254,8 @@ std::vector<int64_t> productLaneValues(int sf, uint64_t seed) {
         }
     vt::Rng rng(seed);
     for (int i = 0; i < 300; ++i) v.push_back(rng.range(INT32_MIN, INT32_MAX) * rng.range(INT32_MIN, INT32_MAX));
-    for (int i = 0; i < 100; ++i) v.push_back(rng.range(-(int64_t(1) << (32 + sf)), int64_t(1) << (32 + sf)));
+    const int64_t near = int64_t(1) << (sf < 30 ? 32 + sf : 62);  // around the range ends
+    for (int i = 0; i < 100; ++i) v.push_back(rng.range(-near, near));
     std::vector<int64_t> r;
     for (int64_t x : v)
         if (x >= minP && x <= maxP) r.push_back(x);
