@@ -512,11 +512,11 @@ constexpr bool product32Form() {
 // the even lanes through a load one element further on while that stays
 // inside the sources, else through a shift. Every step loads before it
 // stores and reads nothing below its own elements, so d may be a source.
-template <bool EndFromHigh, class S1, class S2>
+template <sse::ProductScale32::Form F, class S1, class S2>
 inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
     const sse::ProductScale32 r(sf);
     auto four = [&](__m128i x, __m128i y, __m128i xo, __m128i yo) {
-        return r.template apply<EndFromHigh>(_mm_mul_epi32(x, y), _mm_mul_epi32(xo, yo));
+        return r.template apply<F>(_mm_mul_epi32(x, y), _mm_mul_epi32(xo, yo));
     };
     int i = 0;
     for (; i + 8 < n; i += 8) {
@@ -536,6 +536,17 @@ inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
         i += 4;
     }
     for (; i < n; ++i) d[i] = scaleSat<T32s>(int64_t(at(a, i)) * at(b, i), sf);
+}
+
+// The same for any 0 <= sf <= 31.
+template <class S1, class S2>
+inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
+    using P = sse::ProductScale32;
+    switch (P::formOf(sf)) {
+        case P::Form::Unscaled: return product32Loop<P::Form::Unscaled>(a, b, d, n, sf);
+        case P::Form::Scaled: return product32Loop<P::Form::Scaled>(a, b, d, n, sf);
+        case P::Form::Scaled31: return product32Loop<P::Form::Scaled31>(a, b, d, n, sf);
+    }
 }
 
 // d[i] = scaleSat(a[i] * b[i], sf) for 32 <= sf <= 62.
@@ -567,8 +578,7 @@ inline void intLoop(S1 a, S2 b, TD* d, int n, int sf) {
         if (sf >= 1 && sf <= 15) return narrowProductLoop<true, TD>(a, b, d, n, sf);
     }
     if constexpr (product32Form<Op, TD, S1, S2>()) {
-        if (sse::ProductScale32::endFromHigh(sf)) return product32Loop<true>(a, b, d, n, sf);
-        if (sse::ProductScale32::covers(sf)) return product32Loop<false>(a, b, d, n, sf);
+        if (sse::ProductScale32::covers(sf)) return product32Loop(a, b, d, n, sf);
         if (sf >= 32 && sf <= 62) return product32WideLoop(a, b, d, n, sf);
     }
     if constexpr (Op::kVecInt && std::is_same<TD, T32s>::value && DoubleLanes<S1>::value && DoubleLanes<S2>::value &&

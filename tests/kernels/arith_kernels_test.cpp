@@ -225,8 +225,7 @@ TEST(ProductKernels, Int32MatchesScalarRule) {
     std::vector<int32_t> d(n);
     for (int sf = 0; sf <= 62; ++sf) {
         auto check = [&](auto b, const char* what) {
-            if (sse::ProductScale32::endFromHigh(sf)) kern::product32Loop<true>(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
-            else if (sf <= 31) kern::product32Loop<false>(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
+            if (sf <= 31) kern::product32Loop(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
             else kern::product32WideLoop(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
             for (int i = 0; i < n; ++i)
                 ASSERT_EQ(d[i], scaleSat<T32s>(int64_t(x1[i]) * kern::at(b, i), sf))
@@ -262,14 +261,14 @@ std::vector<int64_t> productLaneValues(int sf, uint64_t seed) {
     return r;
 }
 
-template <bool EndFromHigh>
+template <sse::ProductScale32::Form F>
 void productLanesAgree(int sf) {
     const sse::ProductScale32 r(sf);
     const auto v = productLaneValues(sf, 80 + sf);
     for (size_t i = 0; i + 4 <= v.size(); ++i) {  // a sliding window: each value in each lane
         const __m128i ev = _mm_set_epi64x(v[i + 2], v[i]), od = _mm_set_epi64x(v[i + 3], v[i + 1]);
         int32_t out[4];
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), r.apply<EndFromHigh>(ev, od));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), r.apply<F>(ev, od));
         for (int k = 0; k < 4; ++k)
             ASSERT_EQ(out[k], scaleSat<T32s>(v[i + k], sf)) << "p " << v[i + k] << " sf " << sf << " lane " << k;
     }
@@ -281,11 +280,15 @@ TEST(ProductKernels, Int32LanesMatchScalarRule) {
             EXPECT_GE(sf, 32);
             continue;
         }
-        productLanesAgree<false>(sf);
-        if (sse::ProductScale32::endFromHigh(sf)) productLanesAgree<true>(sf);
+        using P = sse::ProductScale32;
+        switch (P::formOf(sf)) {
+            case P::Form::Unscaled: productLanesAgree<P::Form::Unscaled>(sf); break;
+            case P::Form::Scaled: productLanesAgree<P::Form::Scaled>(sf); break;
+            case P::Form::Scaled31: productLanesAgree<P::Form::Scaled31>(sf); break;
+        }
+        // The end from the sign of p holds wherever there is rounding.
+        if (sf > 0) productLanesAgree<P::Form::Scaled31>(sf);
     }
-    EXPECT_FALSE(sse::ProductScale32::endFromHigh(0));
-    EXPECT_FALSE(sse::ProductScale32::endFromHigh(31));
 }
 
 // The 32-bit product loops at every length up to a few steps, in exactly
@@ -304,8 +307,7 @@ TEST(ProductKernels, Int32LoopsEveryLength) {
             const int32_t c = edges[(n + sf) % 9];
             auto run = [&](auto a, auto b) {
                 d[n] = 0x5a5a5a5a;
-                if (sse::ProductScale32::endFromHigh(sf)) kern::product32Loop<true>(a, b, d.data(), n, sf);
-                else if (sf <= 31) kern::product32Loop<false>(a, b, d.data(), n, sf);
+                if (sf <= 31) kern::product32Loop(a, b, d.data(), n, sf);
                 else kern::product32WideLoop(a, b, d.data(), n, sf);
                 for (int i = 0; i < n; ++i)
                     ASSERT_EQ(d[i], scaleSat<T32s>(int64_t(kern::at(a, i)) * kern::at(b, i), sf)) << "n " << n << " sf " << sf << " i " << i;

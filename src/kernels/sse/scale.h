@@ -211,31 +211,34 @@ inline __m128i saturate64to32(__m128i ev, __m128i od) {
 //   sign bit of p's high half, and saturates to the end on that side.
 // - Ties to even. The rule gives t - 1 exactly where R = h with q even,
 //   i.e. where the low sf + 1 bits of p equal h; sf + 1 <= 32, so the low
-//   half of p decides it (sf = 0 has no ties: mask 0 never equals 1). The
-//   step down never crosses a range end: it applies only where t = q + 1
+//   half of p decides it (sf = 0 has no ties). The step down never crosses a range end: it applies only where t = q + 1
 //   is odd, and the ends of the biased range, 0 and 2^32, are even.
 // - The in-range result is the low half of v, minus the tie step, with the
 //   bias 2^31 removed by flipping the top bit.
-// - For 1 <= sf <= 30 the high half H of v alone tells the two overflows
-//   apart: if t > 2^31 - 1, u <= 2^62 + 2^(31+sf) + h and H <= 2^(30-sf);
-//   if t < -2^31, u wraps to more than 3 * 2^62 and H >= 3 * 2^(30-sf);
-//   so H <= 2^(30-sf) (signed compare: H < 2^31) picks INT32_MAX, which
-//   saves gathering the high half of p. (sf = 0: a wrapped H is negative;
-//   sf = 31: both overflows can give H = 1.)
+// - The range end. For 1 <= sf <= 30 the high half H of v alone tells the
+//   two overflows apart: if t > 2^31 - 1, u <= 2^62 + 2^(31+sf) + h and
+//   H <= 2^(30-sf); if t < -2^31, u wraps to more than 3 * 2^62 and
+//   H >= 3 * 2^(30-sf); so H <= 2^(30-sf) (signed compare: H < 2^31) picks
+//   INT32_MAX. For sf = 0 (v = u, nothing dropped: no shift, no tie step)
+//   H <= 2^30 if t > 2^31 - 1 and H >= 2^32 - 2^30, negative as a signed
+//   lane, if t < -2^31: its sign picks the end. For sf = 31 both overflows
+//   can give H = 1, and the sign of p's high half decides.
 // Each 32-bit half needed (low and high of p, low and high of v) is
 // gathered for all four elements by one shufps, in the lane order 0, 2, 1,
 // 3; one pshufd restores the element order at the end.
 class ProductScale32 {
 public:
     static bool covers(int sf) { return sf >= 0 && sf <= 31; }
-    // The scale factors where H alone picks the range end.
-    static bool endFromHigh(int sf) { return sf >= 1 && sf <= 30; }
+
+    // The three ways of taking a scale factor (see above).
+    enum class Form { Unscaled, Scaled, Scaled31 };
+    static Form formOf(int sf) { return sf == 0 ? Form::Unscaled : sf <= 30 ? Form::Scaled : Form::Scaled31; }
 
     explicit ProductScale32(int sf)
         : cnt_(_mm_cvtsi32_si128(sf)),
           bias_(_mm_set1_epi64x((int64_t(1) << (31 + sf)) + (sf > 0 ? int64_t(1) << (sf - 1) : 0))),
           tieMask_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(~0u >> (31 - sf)) : 0)),
-          tie_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(1u << (sf - 1)) : 1)),
+          tie_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(1u << (sf - 1)) : 0)),
           flip_(_mm_set1_epi32(INT32_MIN)),
           minus1_(_mm_set1_epi32(-1)),
           posEnd_(_mm_set1_epi32(sf >= 1 && sf <= 30 ? (1 << (30 - sf)) + 1 : 0)) {
@@ -245,20 +248,28 @@ public:
     }
 
     // ev: exact products of elements 0 and 2 (pmuldq), od: of elements 1
-    // and 3. Results in element order. EndFromHigh only where
-    // endFromHigh(sf).
-    template <bool EndFromHigh>
+    // and 3. Results in element order. F must be formOf(sf).
+    template <Form F>
     __m128i apply(__m128i ev, __m128i od) const {
-        const __m128i pLow = lowHalves(ev, od);
-        const __m128i ve = _mm_srl_epi64(_mm_add_epi64(ev, bias_), cnt_);
-        const __m128i vo = _mm_srl_epi64(_mm_add_epi64(od, bias_), cnt_);
-        const __m128i down = _mm_cmpeq_epi32(_mm_and_si128(pLow, tieMask_), tie_);  // -1 where t steps down
+        __m128i ve = _mm_add_epi64(ev, bias_), vo = _mm_add_epi64(od, bias_);
+        if constexpr (F != Form::Unscaled) {
+            ve = _mm_srl_epi64(ve, cnt_);
+            vo = _mm_srl_epi64(vo, cnt_);
+        }
         const __m128i vHigh = highHalves(ve, vo);
+        __m128i low = lowHalves(ve, vo);
+        if constexpr (F != Form::Unscaled) {
+            const __m128i down = _mm_cmpeq_epi32(_mm_and_si128(lowHalves(ev, od), tieMask_), tie_);  // -1: t steps down
+            low = _mm_add_epi32(low, down);
+        }
         // The range ends, biased like v: 2^32 - 1 (INT32_MAX) where the
         // product is not negative, 0 (INT32_MIN) where it is.
-        const __m128i end = EndFromHigh ? _mm_cmpgt_epi32(posEnd_, vHigh) : _mm_cmpgt_epi32(highHalves(ev, od), minus1_);
+        __m128i end;
+        if constexpr (F == Form::Unscaled) end = _mm_cmpgt_epi32(vHigh, minus1_);
+        else if constexpr (F == Form::Scaled) end = _mm_cmpgt_epi32(posEnd_, vHigh);
+        else end = _mm_cmpgt_epi32(highHalves(ev, od), minus1_);
         const __m128i fits = _mm_cmpeq_epi32(vHigh, _mm_setzero_si128());
-        const __m128i r = _mm_xor_si128(_mm_blendv_epi8(end, _mm_add_epi32(lowHalves(ve, vo), down), fits), flip_);
+        const __m128i r = _mm_xor_si128(_mm_blendv_epi8(end, low, fits), flip_);
         return _mm_shuffle_epi32(r, _MM_SHUFFLE(3, 1, 2, 0));
     }
 
