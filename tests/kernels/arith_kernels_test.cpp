@@ -310,7 +310,8 @@ TEST(ProductKernels, Int32LoopsEveryLength) {
                 if (sf <= 31) kern::product32Loop(a, b, d.data(), n, sf);
                 else kern::product32WideLoop(a, b, d.data(), n, sf);
                 for (int i = 0; i < n; ++i)
-                    ASSERT_EQ(d[i], scaleSat<T32s>(int64_t(kern::at(a, i)) * kern::at(b, i), sf)) << "n " << n << " sf " << sf << " i " << i;
+                    ASSERT_EQ(d[i], scaleSat<T32s>(int64_t(kern::at(a, i)) * kern::at(b, i), sf))
+                        << "n " << n << " sf " << sf << " i " << i;
                 ASSERT_EQ(d[n], 0x5a5a5a5a) << "n " << n << " sf " << sf;
             };
             run(kern::Arr<T32s>{x.data()}, kern::Arr<T32s>{y.data()});

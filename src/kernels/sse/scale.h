@@ -211,8 +211,9 @@ inline __m128i saturate64to32(__m128i ev, __m128i od) {
 //   sign bit of p's high half, and saturates to the end on that side.
 // - Ties to even. The rule gives t - 1 exactly where R = h with q even,
 //   i.e. where the low sf + 1 bits of p equal h; sf + 1 <= 32, so the low
-//   half of p decides it (sf = 0 has no ties). The step down never crosses a range end: it applies only where t = q + 1
-//   is odd, and the ends of the biased range, 0 and 2^32, are even.
+//   half of p decides it (sf = 0 has no ties). The step down never
+//   crosses a range end: it applies only where t = q + 1 is odd, and the
+//   ends of the biased range, 0 and 2^32, are even.
 // - The in-range result is the low half of v, minus the tie step, with the
 //   bias 2^31 removed by flipping the top bit.
 // - The range end. For 1 <= sf <= 30 the high half H of v alone tells the
