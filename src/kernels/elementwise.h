@@ -486,8 +486,9 @@ inline void narrowProductLoop(S1 a, S2 b, T* d, int n, int sf) {
 
 // ---- products of 32-bit integers in 64-bit lanes -----------------------------
 //
-// pmuldq gives the exact products of the even lanes; sse::ProductRound64
-// rounds them by the rule and sse::saturate64to32 narrows them.
+// pmuldq gives the exact products of the even lanes. For 0 <= sf <= 31
+// sse::ProductScale32 rounds and narrows them in one go; larger scale
+// factors go through sse::ProductRound64 and sse::saturate64to32.
 
 // The odd elements of a source moved to the even lanes (a repeated value is
 // there already).
@@ -507,10 +508,51 @@ constexpr bool product32Form() {
            std::is_same<E2, T32s>::value && plain;
 }
 
-// d[i] = scaleSat(a[i] * b[i], sf) for 0 <= sf <= 62 (sf = 0 without Round).
-template <bool Round, class S1, class S2>
+// d[i] = scaleSat(a[i] * b[i], sf) for 0 <= sf <= 31. The odd elements reach
+// the even lanes through a load one element further on while that stays
+// inside the sources, else through a shift. Every step loads before it
+// stores and reads nothing below its own elements, so d may be a source.
+template <sse::ProductScale32::Form F, class S1, class S2>
 inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
-    const sse::ProductRound64<Round> r(sf);
+    const sse::ProductScale32 r(sf);
+    auto four = [&](__m128i x, __m128i y, __m128i xo, __m128i yo) {
+        return r.template apply<F>(_mm_mul_epi32(x, y), _mm_mul_epi32(xo, yo));
+    };
+    int i = 0;
+    for (; i + 8 < n; i += 8) {
+        const __m128i x0 = sload(a, i), y0 = sload(b, i), x1 = sload(a, i + 4), y1 = sload(b, i + 4);
+        const __m128i r0 = four(x0, y0, sload(a, i + 1), sload(b, i + 1));
+        const __m128i r1 = four(x1, y1, sload(a, i + 5), sload(b, i + 5));
+        sse::storeu(d + i, r0);
+        sse::storeu(d + i + 4, r1);
+    }
+    for (; i + 4 < n; i += 4) {
+        const __m128i x = sload(a, i), y = sload(b, i);
+        sse::storeu(d + i, four(x, y, sload(a, i + 1), sload(b, i + 1)));
+    }
+    if (i + 4 <= n) {
+        const __m128i x = sload(a, i), y = sload(b, i);
+        sse::storeu(d + i, four(x, y, oddLanes<S1>(x), oddLanes<S2>(y)));
+        i += 4;
+    }
+    for (; i < n; ++i) d[i] = scaleSat<T32s>(int64_t(at(a, i)) * at(b, i), sf);
+}
+
+// The same for any 0 <= sf <= 31.
+template <class S1, class S2>
+inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
+    using P = sse::ProductScale32;
+    switch (P::formOf(sf)) {
+        case P::Form::Unscaled: return product32Loop<P::Form::Unscaled>(a, b, d, n, sf);
+        case P::Form::Scaled: return product32Loop<P::Form::Scaled>(a, b, d, n, sf);
+        case P::Form::Scaled31: return product32Loop<P::Form::Scaled31>(a, b, d, n, sf);
+    }
+}
+
+// d[i] = scaleSat(a[i] * b[i], sf) for 32 <= sf <= 62.
+template <class S1, class S2>
+inline void product32WideLoop(S1 a, S2 b, T32s* d, int n, int sf) {
+    const sse::ProductRound64 r(sf);
     int i = 0;
     for (; i + 4 <= n; i += 4) {
         const __m128i x = sload(a, i), y = sload(b, i);
@@ -536,8 +578,8 @@ inline void intLoop(S1 a, S2 b, TD* d, int n, int sf) {
         if (sf >= 1 && sf <= 15) return narrowProductLoop<true, TD>(a, b, d, n, sf);
     }
     if constexpr (product32Form<Op, TD, S1, S2>()) {
-        if (sf == 0) return product32Loop<false>(a, b, d, n, sf);
-        if (sf >= 1 && sf <= 62) return product32Loop<true>(a, b, d, n, sf);
+        if (sse::ProductScale32::covers(sf)) return product32Loop(a, b, d, n, sf);
+        if (sf >= 32 && sf <= 62) return product32WideLoop(a, b, d, n, sf);
     }
     if constexpr (Op::kVecInt && std::is_same<TD, T32s>::value && DoubleLanes<S1>::value && DoubleLanes<S2>::value &&
                   Op::magBits(8 * sizeof(typename S1::Elem) - 1, 8 * sizeof(typename S2::Elem) - 1) <= 52) {

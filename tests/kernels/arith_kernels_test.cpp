@@ -225,14 +225,99 @@ TEST(ProductKernels, Int32MatchesScalarRule) {
     std::vector<int32_t> d(n);
     for (int sf = 0; sf <= 62; ++sf) {
         auto check = [&](auto b, const char* what) {
-            if (sf == 0) kern::product32Loop<false>(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
-            else kern::product32Loop<true>(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
+            if (sf <= 31) kern::product32Loop(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
+            else kern::product32WideLoop(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
             for (int i = 0; i < n; ++i)
                 ASSERT_EQ(d[i], scaleSat<T32s>(int64_t(x1[i]) * kern::at(b, i), sf))
                     << x1[i] << " * " << kern::at(b, i) << " sf " << sf << " " << what;
         };
         check(kern::Arr<T32s>{x2.data()}, "vector");
         for (size_t k = 0; k < f.size(); k += 5) check(kern::Bcast<T32s>{f[k]}, "constant");
+    }
+}
+
+// The product rule in lanes, fed with exact 64-bit values: for every scale
+// factor the lanes take, values on and beside the ties above even and odd
+// quotients and the exact multiples, at both range ends and one step past
+// them, the extreme products, and random products; each value in every lane.
+std::vector<int64_t> productLaneValues(int sf, uint64_t seed) {
+    const int64_t h = sf > 0 ? int64_t(1) << (sf - 1) : 0, step = int64_t(1) << sf;
+    const int64_t maxP = int64_t(1) << 62, minP = -maxP + (int64_t(1) << 31);  // (-2^31)^2, -2^31 * (2^31 - 1)
+    std::vector<int64_t> v = {0, 1, -1, maxP, minP, maxP - 1, minP + 1, maxP / 3, minP / 3};
+    const int64_t quotients[] = {0, 1, 2, 3, -1, -2, -3, 12345, -12346, INT32_MAX, INT32_MAX - 1, INT32_MIN,
+                                 INT32_MIN + 1, int64_t(INT32_MAX) + 1, int64_t(INT32_MIN) - 1};
+    for (int64_t q : quotients)
+        for (int64_t e : {-1, 0, 1}) {
+            v.push_back(q * step + h + e);
+            v.push_back(q * step + e);
+        }
+    vt::Rng rng(seed);
+    for (int i = 0; i < 300; ++i) v.push_back(rng.range(INT32_MIN, INT32_MAX) * rng.range(INT32_MIN, INT32_MAX));
+    const int64_t near = int64_t(1) << (sf < 30 ? 32 + sf : 62);  // around the range ends
+    for (int i = 0; i < 100; ++i) v.push_back(rng.range(-near, near));
+    std::vector<int64_t> r;
+    for (int64_t x : v)
+        if (x >= minP && x <= maxP) r.push_back(x);
+    return r;
+}
+
+template <sse::ProductScale32::Form F>
+void productLanesAgree(int sf) {
+    const sse::ProductScale32 r(sf);
+    const auto v = productLaneValues(sf, 80 + sf);
+    for (size_t i = 0; i + 4 <= v.size(); ++i) {  // a sliding window: each value in each lane
+        const __m128i ev = _mm_set_epi64x(v[i + 2], v[i]), od = _mm_set_epi64x(v[i + 3], v[i + 1]);
+        int32_t out[4];
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(out), r.apply<F>(ev, od));
+        for (int k = 0; k < 4; ++k)
+            ASSERT_EQ(out[k], scaleSat<T32s>(v[i + k], sf)) << "p " << v[i + k] << " sf " << sf << " lane " << k;
+    }
+}
+
+TEST(ProductKernels, Int32LanesMatchScalarRule) {
+    for (int sf = 0; sf <= 40; ++sf) {
+        if (!sse::ProductScale32::covers(sf)) {
+            EXPECT_GE(sf, 32);
+            continue;
+        }
+        using P = sse::ProductScale32;
+        switch (P::formOf(sf)) {
+            case P::Form::Unscaled: productLanesAgree<P::Form::Unscaled>(sf); break;
+            case P::Form::Scaled: productLanesAgree<P::Form::Scaled>(sf); break;
+            case P::Form::Scaled31: productLanesAgree<P::Form::Scaled31>(sf); break;
+        }
+        // The end from the sign of p holds wherever there is rounding.
+        if (sf > 0) productLanesAgree<P::Form::Scaled31>(sf);
+    }
+}
+
+// The 32-bit product loops at every length up to a few steps, in exactly
+// sized buffers (a sanitizer sees any read past the sources), with a
+// varying or repeated operand on either side.
+TEST(ProductKernels, Int32LoopsEveryLength) {
+    vt::Rng rng(61);
+    const int32_t edges[] = {INT32_MIN, INT32_MAX, 0, -1, 1, 46341, -46341, 65536, -65535};
+    for (int n = 0; n <= 37; ++n) {
+        std::vector<int32_t> x(n), y(n), d(n + 1);
+        for (int i = 0; i < n; ++i) {
+            x[i] = i % 5 == 0 ? edges[(i / 5) % 9] : int32_t(rng.range(INT32_MIN, INT32_MAX));
+            y[i] = i % 3 == 0 ? edges[(i + n) % 9] : int32_t(rng.range(-70000, 70000));
+        }
+        for (int sf : {0, 1, 3, 17, 30, 31, 32, 45, 62}) {
+            const int32_t c = edges[(n + sf) % 9];
+            auto run = [&](auto a, auto b) {
+                d[n] = 0x5a5a5a5a;
+                if (sf <= 31) kern::product32Loop(a, b, d.data(), n, sf);
+                else kern::product32WideLoop(a, b, d.data(), n, sf);
+                for (int i = 0; i < n; ++i)
+                    ASSERT_EQ(d[i], scaleSat<T32s>(int64_t(kern::at(a, i)) * kern::at(b, i), sf))
+                        << "n " << n << " sf " << sf << " i " << i;
+                ASSERT_EQ(d[n], 0x5a5a5a5a) << "n " << n << " sf " << sf;
+            };
+            run(kern::Arr<T32s>{x.data()}, kern::Arr<T32s>{y.data()});
+            run(kern::Arr<T32s>{x.data()}, kern::Bcast<T32s>{c});
+            run(kern::Bcast<T32s>{c}, kern::Arr<T32s>{y.data()});
+        }
     }
 }
 

@@ -155,7 +155,7 @@ private:
 };
 
 // The rule's right shift (ties to even) of exact products s of two 32-bit
-// integers (|s| <= 2^62) held in 64-bit lanes. With
+// integers (|s| <= 2^62) held in 64-bit lanes, for 1 <= sf <= 62. With
 // u = s + 2^63 (the sign bit flipped) u is non-negative, so a logical shift
 // floors: floor(t / 2^sf) = ((t + 2^63) >> sf) - 2^(63-sf) for sf <= 63.
 // Ties to even: the rule's result is floor((s + 2^(sf-1) - 1 + odd) / 2^sf)
@@ -163,26 +163,21 @@ private:
 // below 3 * 2^62 + 2^61 < 2^64 for sf <= 62, so nothing wraps. The 64-bit
 // result fits 32 bits exactly where its high half is the sign of its low
 // half; else it saturates by the sign of the high half.
-template <bool Round>
 class ProductRound64 {
 public:
     explicit ProductRound64(int sf)
         : cnt_(_mm_cvtsi32_si128(sf)),
-          hm1_(_mm_set1_epi64x(Round ? (int64_t(1) << (sf - 1)) - 1 : 0)),
+          hm1_(_mm_set1_epi64x((int64_t(1) << (sf - 1)) - 1)),
           bit_(_mm_set1_epi64x(int64_t(1) << sf)),
           flip_(_mm_set1_epi64x(INT64_MIN)),
-          unbias_(_mm_set1_epi64x(Round ? int64_t(1) << (63 - sf) : 0)) {}
+          unbias_(_mm_set1_epi64x(int64_t(1) << (63 - sf))) {}
 
     // The rounded quotients of two exact products in 64-bit lanes.
     __m128i apply(__m128i s) const {
-        if constexpr (!Round) {
-            return s;
-        } else {
-            const __m128i u = _mm_xor_si128(s, flip_);
-            const __m128i odd = _mm_cmpeq_epi64(_mm_and_si128(u, bit_), bit_);  // -1 where odd
-            const __m128i t = _mm_sub_epi64(_mm_add_epi64(u, hm1_), odd);
-            return _mm_sub_epi64(_mm_srl_epi64(t, cnt_), unbias_);
-        }
+        const __m128i u = _mm_xor_si128(s, flip_);
+        const __m128i odd = _mm_cmpeq_epi64(_mm_and_si128(u, bit_), bit_);  // -1 where odd
+        const __m128i t = _mm_sub_epi64(_mm_add_epi64(u, hm1_), odd);
+        return _mm_sub_epi64(_mm_srl_epi64(t, cnt_), unbias_);
     }
 
 private:
@@ -199,6 +194,95 @@ inline __m128i saturate64to32(__m128i ev, __m128i od) {
     const __m128i sat = _mm_xor_si128(_mm_cmpgt_epi32(zero, highs), _mm_set1_epi32(INT32_MAX));
     return _mm_blendv_epi8(sat, lows, fits);
 }
+
+// The rule on exact products p of two 32-bit integers (|p| <= 2^62) for
+// 0 <= sf <= 31, with 32-bit results, in fewer steps than ProductRound64 and
+// saturate64to32. Let h = 2^(sf-1) (0 for sf = 0), q = floor(p / 2^sf) and
+// R = p - q * 2^sf.
+// - Range bias. u = p + 2^(31+sf) + h in 64 bits. u >= -2^62 and
+//   u <= 2^62 + 2^62 + 2^30 < 2^64, so u wraps only where it is negative.
+//   Adding a multiple of 2^sf commutes with the floor: for u >= 0 the
+//   logical shift gives v = u >> sf = floor((p + h) / 2^sf) + 2^31
+//   = t + 2^31, with t the quotient rounded half up.
+// - Saturation. t fits 32 bits exactly where 0 <= v < 2^32, i.e. where the
+//   high half of v is 0. If t > 2^31 - 1, v >= 2^32 (no wrap, u < 2^64).
+//   If t < -2^31, u < 0 wraps to at least 2^64 - 2^62, and v >= 3 * 2^31
+//   for sf <= 31. An out-of-range t has the sign of p (p = 0 fits), the
+//   sign bit of p's high half, and saturates to the end on that side.
+// - Ties to even. The rule gives t - 1 exactly where R = h with q even,
+//   i.e. where the low sf + 1 bits of p equal h; sf + 1 <= 32, so the low
+//   half of p decides it (sf = 0 has no ties). The step down never
+//   crosses a range end: it applies only where t = q + 1 is odd, and the
+//   ends of the biased range, 0 and 2^32, are even.
+// - The in-range result is the low half of v, minus the tie step, with the
+//   bias 2^31 removed by flipping the top bit.
+// - The range end. For 1 <= sf <= 30 the high half H of v alone tells the
+//   two overflows apart: if t > 2^31 - 1, u <= 2^62 + 2^(31+sf) + h and
+//   H <= 2^(30-sf); if t < -2^31, u wraps to more than 3 * 2^62 and
+//   H >= 3 * 2^(30-sf); so H <= 2^(30-sf) (signed compare: H < 2^31) picks
+//   INT32_MAX. For sf = 0 (v = u, nothing dropped: no shift, no tie step)
+//   H <= 2^30 if t > 2^31 - 1 and H >= 2^32 - 2^30, negative as a signed
+//   lane, if t < -2^31: its sign picks the end. For sf = 31 both overflows
+//   can give H = 1, and the sign of p's high half decides.
+// Each 32-bit half needed (low and high of p, low and high of v) is
+// gathered for all four elements by one shufps, in the lane order 0, 2, 1,
+// 3; one pshufd restores the element order at the end.
+class ProductScale32 {
+public:
+    static bool covers(int sf) { return sf >= 0 && sf <= 31; }
+
+    // The three ways of taking a scale factor (see above).
+    enum class Form { Unscaled, Scaled, Scaled31 };
+    static Form formOf(int sf) { return sf == 0 ? Form::Unscaled : sf <= 30 ? Form::Scaled : Form::Scaled31; }
+
+    explicit ProductScale32(int sf)
+        : cnt_(_mm_cvtsi32_si128(sf)),
+          bias_(_mm_set1_epi64x((int64_t(1) << (31 + sf)) + (sf > 0 ? int64_t(1) << (sf - 1) : 0))),
+          tieMask_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(~0u >> (31 - sf)) : 0)),
+          tie_(_mm_set1_epi32(sf > 0 ? static_cast<int32_t>(1u << (sf - 1)) : 0)),
+          flip_(_mm_set1_epi32(INT32_MIN)),
+          minus1_(_mm_set1_epi32(-1)),
+          posEnd_(_mm_set1_epi32(sf >= 1 && sf <= 30 ? (1 << (30 - sf)) + 1 : 0)) {
+        // Hidden from the optimiser, which would rewrite "> -1" as ">= 0"
+        // in two instructions (pminsd, pcmpeqd).
+        __asm__("" : "+x"(minus1_));
+    }
+
+    // ev: exact products of elements 0 and 2 (pmuldq), od: of elements 1
+    // and 3. Results in element order. F must be formOf(sf).
+    template <Form F>
+    __m128i apply(__m128i ev, __m128i od) const {
+        __m128i ve = _mm_add_epi64(ev, bias_), vo = _mm_add_epi64(od, bias_);
+        if constexpr (F != Form::Unscaled) {
+            ve = _mm_srl_epi64(ve, cnt_);
+            vo = _mm_srl_epi64(vo, cnt_);
+        }
+        const __m128i vHigh = highHalves(ve, vo);
+        __m128i low = lowHalves(ve, vo);
+        if constexpr (F != Form::Unscaled) {
+            const __m128i down = _mm_cmpeq_epi32(_mm_and_si128(lowHalves(ev, od), tieMask_), tie_);  // -1: t steps down
+            low = _mm_add_epi32(low, down);
+        }
+        // The range ends, biased like v: 2^32 - 1 (INT32_MAX) where the
+        // product is not negative, 0 (INT32_MIN) where it is.
+        __m128i end;
+        if constexpr (F == Form::Unscaled) end = _mm_cmpgt_epi32(vHigh, minus1_);
+        else if constexpr (F == Form::Scaled) end = _mm_cmpgt_epi32(posEnd_, vHigh);
+        else end = _mm_cmpgt_epi32(highHalves(ev, od), minus1_);
+        const __m128i fits = _mm_cmpeq_epi32(vHigh, _mm_setzero_si128());
+        const __m128i r = _mm_xor_si128(_mm_blendv_epi8(end, low, fits), flip_);
+        return _mm_shuffle_epi32(r, _MM_SHUFFLE(3, 1, 2, 0));
+    }
+
+private:
+    static __m128i lowHalves(__m128i ev, __m128i od) {
+        return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(ev), _mm_castsi128_ps(od), _MM_SHUFFLE(2, 0, 2, 0)));
+    }
+    static __m128i highHalves(__m128i ev, __m128i od) {
+        return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(ev), _mm_castsi128_ps(od), _MM_SHUFFLE(3, 1, 3, 1)));
+    }
+    __m128i cnt_, bias_, tieMask_, tie_, flip_, minus1_, posEnd_;
+};
 
 
 }  // namespace sse
