@@ -145,20 +145,9 @@ constexpr size_t kPatternBlock = kSmallBytes;
 constexpr size_t kPatternDoubling = 2048;
 constexpr size_t kPatternSource = size_t(16) << 10;
 
-// n bytes (a multiple of 2) at a 4-byte aligned d, filled with the 4 bytes
-// of `unit` repeated; a 2-byte remainder gets the unit's first two bytes.
-// wchar_t is 4 bytes wide on every target of this build.
-inline void fillWide(unsigned char* d, int32_t unit, size_t n) {
-    static_assert(sizeof(wchar_t) == 4, "the wide fill writes 4-byte units");
-    wchar_t w;
-    memcpy(&w, &unit, 4);
-    wmemset(reinterpret_cast<wchar_t*>(d), w, n / 4);
-    if (n & 2) memcpy(d + n - 2, &unit, 2);
-}
-
 // The processor's string fill (rep stos) of `count` 4- or 8-byte units, the
 // fill memset itself uses from a few kilobytes on: it keeps pace with memset
-// at every size. The wide fill above is faster up to the size of the
+// at every size. The wide fill below is faster up to the size of the
 // second-level cache (0.6x memset) but trails it by 10 to 20 % beyond, so 4-byte
 // units take the string fill from kStringFillFrom bytes on.
 constexpr size_t kStringFillFrom = size_t(1) << 20;
@@ -171,6 +160,22 @@ inline void fillString8(unsigned char* d, uint64_t unit, size_t count) {
     __asm__ volatile("rep stosq" : "+D"(d), "+c"(count) : "a"(unit) : "memory");
 }
 #endif
+
+// n bytes (a multiple of 2) at a 4-byte aligned d, filled with the 4 bytes
+// of `unit` repeated (the C library's wide fill below kStringFillFrom, the
+// string fill from there); a 2-byte remainder gets the unit's first two
+// bytes. wchar_t is 4 bytes wide on every target of this build.
+inline void fillWide(unsigned char* d, int32_t unit, size_t n) {
+    static_assert(sizeof(wchar_t) == 4, "the wide fill writes 4-byte units");
+    if (n >= kStringFillFrom) {
+        fillString4(d, static_cast<uint32_t>(unit), n / 4);
+    } else {
+        wchar_t w;
+        memcpy(&w, &unit, 4);
+        wmemset(reinterpret_cast<wchar_t*>(d), w, n / 4);
+    }
+    if (n & 2) memcpy(d + n - 2, &unit, 2);
+}
 
 // `first` holds the W-byte pattern repeated over 16 bytes.
 template <size_t W>
@@ -187,13 +192,7 @@ inline void fillPattern(void* dst, __m128i first, size_t count) {
     }
     if constexpr (W <= 4) {
         if ((reinterpret_cast<uintptr_t>(d) & 3) == 0 && n < kStreamingFillBytes) {
-            const int32_t unit = _mm_cvtsi128_si32(first);
-            if (n >= kStringFillFrom) {
-                fillString4(d, static_cast<uint32_t>(unit), n / 4);
-                if (n & 2) memcpy(d + n - 2, &unit, 2);
-            } else {
-                fillWide(d, unit, n);
-            }
+            fillWide(d, _mm_cvtsi128_si32(first), n);
             return;
         }
     }

@@ -13,6 +13,16 @@
 
 namespace {
 
+// Every ordered pair of the factors f, as two operand vectors.
+template <class T>
+void allPairs(const std::vector<T>& f, std::vector<T>& x1, std::vector<T>& x2) {
+    for (T p : f)
+        for (T q : f) {
+            x1.push_back(p);
+            x2.push_back(q);
+        }
+}
+
 using namespace veks;
 
 // Exact lane values: ties, their neighbours, range ends and random values
@@ -216,11 +226,7 @@ TEST(ProductKernels, Int32MatchesScalarRule) {
     vt::Rng rng(60);
     for (int i = 0; i < 30; ++i) f.push_back(int32_t(rng.range(INT32_MIN, INT32_MAX)));
     std::vector<int32_t> x1, x2;
-    for (int32_t p : f)
-        for (int32_t q : f) {
-            x1.push_back(p);
-            x2.push_back(q);
-        }
+    allPairs(f, x1, x2);
     const int n = int(x1.size());
     std::vector<int32_t> d(n);
     for (int sf = 0; sf <= 62; ++sf) {
@@ -338,11 +344,7 @@ void narrowProductsAgree() {
     for (int64_t x : v)
         if (x >= L::min() && x <= L::max()) f.push_back(T(x));
     std::vector<T> x1, x2;
-    for (T p : f)
-        for (T q : f) {
-            x1.push_back(p);
-            x2.push_back(q);
-        }
+    allPairs(f, x1, x2);
     const int n = int(x1.size());
     std::vector<T> d(n);
     for (int sf = 0; sf <= 15; ++sf) {
