@@ -17,7 +17,7 @@
 #include <stddef.h>
 #include <stdint.h>
 
-#include "convert_store.h"
+#include "store.h"
 #include "frame/detail/rounding.h"
 #include "frame/detail/traits.h"
 

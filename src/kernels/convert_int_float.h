@@ -15,7 +15,7 @@
 
 #include <type_traits>
 
-#include "convert_store.h"
+#include "store.h"
 #include "veks.h"
 
 namespace veks {

@@ -7,7 +7,7 @@
 #include <stddef.h>
 #include <stdint.h>
 
-#include "convert_store.h"
+#include "store.h"
 #include "frame/detail/scale.h"
 #include "kernels/sse/scale.h"
 

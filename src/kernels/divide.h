@@ -64,9 +64,15 @@ inline __m128 refinedQuotient(__m128 n, __m128 d) {
 // any slack in the schedule shows at once. Elsewhere (eight registers are
 // too few for the four blocks) the stages are written in C++ in the same
 // order.
+// Stream chooses streaming stores for d (then 16-byte aligned).
+template <bool Stream>
 inline void refinedStep16(const float* a, const float* b, float* d, __m128 one, __m128* bits) {
 #if defined(__x86_64__)
     __m128 d0, d1, d2, d3, r0, r1, r2, r3, e0, e1, e2, e3;
+    // The block in register reg to off(d), streaming or not.
+#define VEKS_PUT_BLOCK(reg, off)                                  \
+    ".if %c[stream]\n\t" "movntps %[" reg "], " off "(%[d])\n\t" \
+    ".else\n\t" "movups %[" reg "], " off "(%[d])\n\t" ".endif\n\t"
     __asm__ volatile(
         "movups   (%[a]), %[d0]\n\t"
         "movups 16(%[a]), %[d1]\n\t"
@@ -88,26 +94,27 @@ inline void refinedStep16(const float* a, const float* b, float* d, __m128 one, 
         "movups 48(%[b]), %[d3]\n\t" "mulps %[d3], %[r3]\n\t"
         // q = q0 + (q0 * e + q0) * e
         "movaps %[r0], %[d0]\n\t" "mulps %[e0], %[d0]\n\t" "addps %[r0], %[d0]\n\t" "mulps %[e0], %[d0]\n\t"
-        "orps %[e1], %[e0]\n\t" "addps %[r0], %[d0]\n\t" "movups %[d0], (%[d])\n\t"
+        "orps %[e1], %[e0]\n\t" "addps %[r0], %[d0]\n\t" VEKS_PUT_BLOCK("d0", "")
         "movaps %[r1], %[d1]\n\t" "mulps %[e1], %[d1]\n\t" "addps %[r1], %[d1]\n\t" "mulps %[e1], %[d1]\n\t"
-        "addps %[r1], %[d1]\n\t" "movups %[d1], 16(%[d])\n\t"
+        "addps %[r1], %[d1]\n\t" VEKS_PUT_BLOCK("d1", "16")
         "movaps %[r2], %[d2]\n\t" "mulps %[e2], %[d2]\n\t" "addps %[r2], %[d2]\n\t" "mulps %[e2], %[d2]\n\t"
         "orps %[e3], %[e2]\n\t" "orps %[e2], %[e0]\n\t" "orps %[e0], %[bits]\n\t"
-        "addps %[r2], %[d2]\n\t" "movups %[d2], 32(%[d])\n\t"
+        "addps %[r2], %[d2]\n\t" VEKS_PUT_BLOCK("d2", "32")
         "movaps %[r3], %[d3]\n\t" "mulps %[e3], %[d3]\n\t" "addps %[r3], %[d3]\n\t" "mulps %[e3], %[d3]\n\t"
-        "addps %[r3], %[d3]\n\t" "movups %[d3], 48(%[d])\n\t"
+        "addps %[r3], %[d3]\n\t" VEKS_PUT_BLOCK("d3", "48")
         : [bits] "+x"(*bits), [d0] "=&x"(d0), [d1] "=&x"(d1), [d2] "=&x"(d2), [d3] "=&x"(d3), [r0] "=&x"(r0),
           [r1] "=&x"(r1), [r2] "=&x"(r2), [r3] "=&x"(r3), [e0] "=&x"(e0), [e1] "=&x"(e1), [e2] "=&x"(e2),
           [e3] "=&x"(e3)
-        : [a] "r"(a), [b] "r"(b), [d] "r"(d), [one] "x"(one)
+        : [a] "r"(a), [b] "r"(b), [d] "r"(d), [one] "x"(one), [stream] "i"(Stream ? 1 : 0)
         : "memory");
+#undef VEKS_PUT_BLOCK
 #else
     __m128 dv[4], r[4], e[4], q0[4];
     for (int k = 0; k < 4; ++k) dv[k] = _mm_loadu_ps(a + 4 * k);
     for (int k = 0; k < 4; ++k) r[k] = _mm_rcp_ps(dv[k]);
     for (int k = 0; k < 4; ++k) e[k] = _mm_sub_ps(one, _mm_mul_ps(dv[k], r[k]));
     for (int k = 0; k < 4; ++k) q0[k] = _mm_mul_ps(_mm_loadu_ps(b + 4 * k), r[k]);
-    for (int k = 0; k < 4; ++k) _mm_storeu_ps(d + 4 * k, refinement(q0[k], e[k]));
+    for (int k = 0; k < 4; ++k) put<Stream>(d + 4 * k, refinement(q0[k], e[k]));
     *bits = _mm_or_ps(*bits, _mm_or_ps(_mm_or_ps(e[0], e[1]), _mm_or_ps(e[2], e[3])));
 #endif
 }
@@ -138,52 +145,56 @@ inline bool overlaps(Bcast<float>, const float*, int) { return false; }
 // takes the path its own divisors choose.
 template <class SD, class SN>
 inline bool divide32fLoop(SD divisor, SN dividend, float* d, int n) {
-    constexpr int K = 4;
-    const __m128 zero = _mm_setzero_ps(), one = _mm_set1_ps(1.0f);
-    const int whole = n & ~3;
-    int zeroMask = 0;
-    auto checked = [&](int j) {
-        const __m128 a = vload(divisor, j), b = vload(dividend, j);
-        const int z = _mm_movemask_ps(_mm_cmpeq_ps(a, zero));
-        zeroMask |= z;
-        _mm_storeu_ps(d + j, z ? _mm_div_ps(b, a) : refinedQuotient(b, a));
-    };
-    auto refined = [&](int j) { _mm_storeu_ps(d + j, refinedQuotient(vload(dividend, j), vload(divisor, j))); };
-    int i = 0;
-    if (!overlaps(divisor, d, n) && !overlaps(dividend, d, n)) {
-        __m128 bits = zero;
-        alignas(16) float row[16];
-        if constexpr (std::is_same<SN, Bcast<float>>::value) {
-            for (float& v : row) v = dividend.v;
+    return withStores(d, static_cast<size_t>(n), [&](auto stream) {
+        constexpr bool St = decltype(stream)::value;
+        constexpr int K = 4;
+        const __m128 zero = _mm_setzero_ps(), one = _mm_set1_ps(1.0f);
+        const int whole = n & ~3;
+        int zeroMask = 0;
+        auto checked = [&](int j) {
+            const __m128 a = vload(divisor, j), b = vload(dividend, j);
+            const int z = _mm_movemask_ps(_mm_cmpeq_ps(a, zero));
+            zeroMask |= z;
+            put<St>(d + j, z ? _mm_div_ps(b, a) : refinedQuotient(b, a));
+        };
+        auto refined = [&](int j) { put<St>(d + j, refinedQuotient(vload(dividend, j), vload(divisor, j))); };
+        int i = 0;
+        if (!overlaps(divisor, d, n) && !overlaps(dividend, d, n)) {
+            __m128 bits = zero;
+            alignas(16) float row[16];
+            if constexpr (std::is_same<SN, Bcast<float>>::value) {
+                for (float& v : row) v = dividend.v;
+            }
+            for (; i + 16 <= whole; i += 16)
+                refinedStep16<St>(divisor.p + i, dividendRow(dividend, i, row), d + i, one, &bits);
+            for (; i < whole; i += 4) {
+                __m128 e;
+                put<St>(d + i, refinedQuotient(vload(dividend, i), vload(divisor, i), &e));
+                bits = _mm_or_ps(bits, e);
+            }
+            if (_mm_movemask_ps(_mm_cmpunord_ps(bits, bits))) {
+                for (i = 0; i < whole; i += 4) checked(i);
+            }
+        } else {
+            for (; i + 4 * K <= whole; i += 4 * K) {
+                __m128 z = _mm_cmpeq_ps(vload(divisor, i), zero);
+                for (int k = 1; k < K; ++k) z = _mm_or_ps(z, _mm_cmpeq_ps(vload(divisor, i + 4 * k), zero));
+                if (_mm_movemask_ps(z))
+                    eachBlock<K, 4>(checked, i);
+                else
+                    eachBlock<K, 4>(refined, i);
+            }
+            for (; i < whole; i += 4) checked(i);
         }
-        for (; i + 16 <= whole; i += 16) refinedStep16(divisor.p + i, dividendRow(dividend, i, row), d + i, one, &bits);
-        for (; i < whole; i += 4) {
-            __m128 e;
-            _mm_storeu_ps(d + i, refinedQuotient(vload(dividend, i), vload(divisor, i), &e));
-            bits = _mm_or_ps(bits, e);
+        if (i < n) {
+            bool z = false;
+            for (int k = i; k < n; ++k) z |= at(divisor, k) == 0.0f;
+            for (int k = i; k < n; ++k)
+                d[k] = z ? at(dividend, k) / at(divisor, k) : refinedQuotient(at(dividend, k), at(divisor, k));
+            zeroMask |= z;
         }
-        if (_mm_movemask_ps(_mm_cmpunord_ps(bits, bits))) {
-            for (i = 0; i < whole; i += 4) checked(i);
-        }
-    } else {
-        for (; i + 4 * K <= whole; i += 4 * K) {
-            __m128 z = _mm_cmpeq_ps(vload(divisor, i), zero);
-            for (int k = 1; k < K; ++k) z = _mm_or_ps(z, _mm_cmpeq_ps(vload(divisor, i + 4 * k), zero));
-            if (_mm_movemask_ps(z))
-                eachBlock<K, 4>(checked, i);
-            else
-                eachBlock<K, 4>(refined, i);
-        }
-        for (; i < whole; i += 4) checked(i);
-    }
-    if (i < n) {
-        bool z = false;
-        for (int k = i; k < n; ++k) z |= at(divisor, k) == 0.0f;
-        for (int k = i; k < n; ++k)
-            d[k] = z ? at(dividend, k) / at(divisor, k) : refinedQuotient(at(dividend, k), at(divisor, k));
-        zeroMask |= z;
-    }
-    return zeroMask != 0;
+        return zeroMask != 0;
+    });
 }
 
 // ---- full division: double, and complex values ---------------------------------
@@ -236,33 +247,36 @@ inline int zeroLanes(__m128d d) { return _mm_movemask_pd(_mm_cmpeq_pd(d, _mm_set
 template <class T, class SD, class SN>
 inline bool divideFullLoop(SD divisor, SN dividend, T* d, int n) {
     constexpr int W = lanesOf<T>();
-    bool z = false;
-    auto block = [&](int j) {
-        const auto a = vload(divisor, j), b = vload(dividend, j);
-        if constexpr (std::is_same<T, T64f>::value) {
-            z |= zeroLanes(a) != 0;
-            vstore(d + j, _mm_div_pd(b, a));
-        } else if constexpr (std::is_same<T, T64fc>::value) {
-            z |= zeroLanes(a) == 3;
-            vstore(d + j, divComplex(b, a));
-        } else {
-            const int m = _mm_movemask_ps(_mm_cmpeq_ps(a, _mm_setzero_ps()));
-            z |= (m & 3) == 3 || (m & 12) == 12;
-            vstore(d + j, divComplex(b, a));
+    return withStores(d, static_cast<size_t>(n), [&](auto stream) {
+        constexpr bool St = decltype(stream)::value;
+        bool z = false;
+        auto block = [&](int j) {
+            const auto a = vload(divisor, j), b = vload(dividend, j);
+            if constexpr (std::is_same<T, T64f>::value) {
+                z |= zeroLanes(a) != 0;
+                put<St>(d + j, _mm_div_pd(b, a));
+            } else if constexpr (std::is_same<T, T64fc>::value) {
+                z |= zeroLanes(a) == 3;
+                put<St>(d + j, divComplex(b, a));
+            } else {
+                const int m = _mm_movemask_ps(_mm_cmpeq_ps(a, _mm_setzero_ps()));
+                z |= (m & 3) == 3 || (m & 12) == 12;
+                put<St>(d + j, divComplex(b, a));
+            }
+        };
+        int i = 0;
+        for (; i + 2 * W <= n; i += 2 * W) eachBlock<2, W>(block, i);
+        for (; i + W <= n; i += W) block(i);
+        for (; i < n; ++i) {
+            const T a = at(divisor, i), b = at(dividend, i);
+            z |= zeroOf(a);
+            if constexpr (std::is_same<T, T64f>::value)
+                d[i] = b / a;
+            else
+                d[i] = divComplex(b, a);
         }
-    };
-    int i = 0;
-    for (; i + 2 * W <= n; i += 2 * W) eachBlock<2, W>(block, i);
-    for (; i + W <= n; i += W) block(i);
-    for (; i < n; ++i) {
-        const T a = at(divisor, i), b = at(dividend, i);
-        z |= zeroOf(a);
-        if constexpr (std::is_same<T, T64f>::value)
-            d[i] = b / a;
-        else
-            d[i] = divComplex(b, a);
-    }
-    return z;
+        return z;
+    });
 }
 
 // ---- integers through single precision ------------------------------------------

@@ -18,6 +18,7 @@
 #include "kernels/arith_ops.h"
 #include "kernels/sse/scale.h"
 #include "kernels/sse/vocab.h"
+#include "kernels/store.h"
 
 namespace veks {
 namespace kern {
@@ -121,19 +122,22 @@ inline auto firstOperand(S s, int i) {
 template <class Op, class T, class S1, class S2>
 inline void floatLoop(S1 a, S2 b, T* d, int n) {
     constexpr int W = lanesOf<T>(), K = StepBlocks<Op, T, Repeats<S2>::value>::value;
-    int i = 0;
-    if constexpr (Repeats<S2>::value) {
-        // a constant operand: prepared once for the whole loop
-        const auto y = Op::prepare(vload(b, 0));
-        auto block = [&](int j) { vstore(d + j, Op::withConst(firstOperand<Op>(a, j), y)); };
-        for (; i + K * W <= n; i += K * W) eachBlock<K, W>(block, i);
-        for (; i + W <= n; i += W) block(i);
-    } else {
-        auto block = [&](int j) { vstore(d + j, Op::v(firstOperand<Op>(a, j), vload(b, j))); };
-        for (; i + K * W <= n; i += K * W) eachBlock<K, W>(block, i);
-        for (; i + W <= n; i += W) block(i);
-    }
-    for (; i < n; ++i) d[i] = Op::s(at(a, i), at(b, i));
+    withStores(d, static_cast<size_t>(n), [&](auto stream) {
+        constexpr bool St = decltype(stream)::value;
+        int i = 0;
+        if constexpr (Repeats<S2>::value) {
+            // a constant operand: prepared once for the whole loop
+            const auto y = Op::prepare(vload(b, 0));
+            auto block = [&](int j) { put<St>(d + j, Op::withConst(firstOperand<Op>(a, j), y)); };
+            for (; i + K * W <= n; i += K * W) eachBlock<K, W>(block, i);
+            for (; i + W <= n; i += W) block(i);
+        } else {
+            auto block = [&](int j) { put<St>(d + j, Op::v(firstOperand<Op>(a, j), vload(b, j))); };
+            for (; i + K * W <= n; i += K * W) eachBlock<K, W>(block, i);
+            for (; i + W <= n; i += W) block(i);
+        }
+        for (; i < n; ++i) d[i] = Op::s(at(a, i), at(b, i));
+    });
 }
 
 // The scalar twin alone, for tests and for operations without a vector form.

@@ -222,6 +222,16 @@ TEST(Elementwise, MatchesReference) {
     visitCases([&](const auto& c) { at::check(c, ++seed); });
 }
 
+// Long outputs of each shape and float type, streamed and not.
+TEST(Elementwise, LongOutputs) {
+    uint64_t seed = 300;
+    int rows = 0;
+    visitCases([&](const auto& c) {
+        rows += at::checkLong(c, ++seed, {"veksAdd_32f", "veksSub_64f_I", "veksMulC_32fc", "veksMul_64fc", "veksAddC_64f_I"});
+    });
+    EXPECT_EQ(rows, 5);
+}
+
 TEST(Elementwise, ChecksBeforeWriting) {
     visitCases([](const auto& c) { at::contract(c); });
 }

@@ -105,6 +105,14 @@ inline std::vector<Plan> plans(bool scaled) {
     return p;
 }
 
+// One length whose output passes 4 MiB, the size from which the library
+// writes long outputs with streaming stores: on a 16-byte boundary
+// (streamed) and one element off (ordinary stores).
+template <class TD>
+std::vector<Plan> longPlans() {
+    return {{0, {static_cast<int>((size_t(4) << 20) / sizeof(TD)) + 7}, {0, 1}}};
+}
+
 // The four element-wise argument shapes, as one case each.
 enum class Shape { Binary, BinaryInPlace, Const, ConstInPlace };
 
@@ -140,10 +148,10 @@ bool isZero(const T& v) {
 // models receive the destination's contents before the call: accumulating
 // exports read them, refused calls keep them.
 template <class T1, class T2, class TD>
-void check(const Case<T1, T2, TD>& c, uint64_t seed) {
+void check(const Case<T1, T2, TD>& c, uint64_t seed, const std::vector<Plan>& plan) {
     SCOPED_TRACE(c.name);
     vt::Rng rng(seed);
-    for (const Plan& p : plans(c.scaled)) {
+    for (const Plan& p : plan) {
         for (int n : p.lengths) {
             for (int m : p.misalign) {
                 SCOPED_TRACE("sf " + std::to_string(p.sf) + " len " + std::to_string(n) + " misalign " + std::to_string(m));
@@ -178,6 +186,24 @@ void check(const Case<T1, T2, TD>& c, uint64_t seed) {
             }
         }
     }
+}
+
+template <class T1, class T2, class TD>
+void check(const Case<T1, T2, TD>& c, uint64_t seed) {
+    check(c, seed, plans(c.scaled));
+}
+
+// The same over longPlans if c is one of the rows named; returns whether
+// it was.
+template <class T1, class T2, class TD>
+bool checkLong(const Case<T1, T2, TD>& c, uint64_t seed, std::initializer_list<const char*> names) {
+    for (const char* name : names) {
+        if (strcmp(name, c.name) == 0) {
+            check(c, seed, longPlans<TD>());
+            return true;
+        }
+    }
+    return false;
 }
 
 // Null pointers (each the shape has, then all), len < 1, then a zero
