@@ -26,19 +26,14 @@ inline void put(void* p, __m128i v) {
     else
         _mm_storeu_si128(static_cast<__m128i*>(p), v);
 }
+// Floating lanes are stored as their bits.
 template <bool Stream>
 inline void put(float* p, __m128 v) {
-    if (Stream)
-        _mm_stream_ps(p, v);
-    else
-        _mm_storeu_ps(p, v);
+    put<Stream>(static_cast<void*>(p), _mm_castps_si128(v));
 }
 template <bool Stream>
 inline void put(double* p, __m128d v) {
-    if (Stream)
-        _mm_stream_pd(p, v);
-    else
-        _mm_storeu_pd(p, v);
+    put<Stream>(static_cast<void*>(p), _mm_castpd_si128(v));
 }
 
 template <bool Stream>
