@@ -213,33 +213,54 @@ TEST(ScaledSumKernels, MatchScalarRule) {
     EXPECT_TRUE(kern::SumRound<T32s>::type::covers(31));
 }
 
-// Products of 32-bit integers rounded in 64-bit lanes: factors at the range
-// ends, powers of two and their neighbours (exact products on and beside
-// every tie), random ones; every scale factor the lanes take.
-TEST(ProductKernels, Int32MatchesScalarRule) {
-    std::vector<int32_t> f = {INT32_MIN, INT32_MIN + 1, INT32_MAX, INT32_MAX - 1, 0, 1, -1, 3, -3, 46341, -46341};
-    for (int k = 1; k < 31; k += 3)
-        for (int32_t e : {-1, 0, 1}) {
-            f.push_back((int32_t(1) << k) + e);
-            f.push_back(-(int32_t(1) << k) + e);
+// Factors of T for the product loops: range ends, powers of two and their
+// neighbours (every kStep-th power), root and -root (whose squares sit at
+// the top of the range), random ones.
+template <class T>
+std::vector<T> productFactors(int64_t root, int kStep, uint64_t seed) {
+    using L = std::numeric_limits<T>;
+    std::vector<int64_t> v = {L::min(), L::min() + 1, L::max(), L::max() - 1, 0, 1, -1, 3, -3, root, -root};
+    for (int k = 1; k < 8 * int(sizeof(T)); k += kStep)
+        for (int64_t e : {-1, 0, 1}) {
+            v.push_back((int64_t(1) << k) + e);
+            v.push_back(-(int64_t(1) << k) + e);
         }
-    vt::Rng rng(60);
-    for (int i = 0; i < 30; ++i) f.push_back(int32_t(rng.range(INT32_MIN, INT32_MAX)));
-    std::vector<int32_t> x1, x2;
+    vt::Rng rng(seed);
+    for (int i = 0; i < 30; ++i) v.push_back(rng.range(L::min(), L::max()));
+    std::vector<T> f;
+    for (int64_t x : v)
+        if (x >= L::min() && x <= L::max()) f.push_back(T(x));
+    return f;
+}
+
+// run(a, b, d, n, sf) against the scalar rule on all pairs of the factors,
+// the second one a vector and (every fifth factor) a constant, for every
+// scale factor from 0 to maxSf: exact products on and beside every tie.
+template <class T, class Run>
+void productsAgree(const std::vector<T>& f, int maxSf, Run run) {
+    std::vector<T> x1, x2;
     allPairs(f, x1, x2);
     const int n = int(x1.size());
-    std::vector<int32_t> d(n);
-    for (int sf = 0; sf <= 62; ++sf) {
+    std::vector<T> d(n);
+    for (int sf = 0; sf <= maxSf; ++sf) {
         auto check = [&](auto b, const char* what) {
-            if (sf <= 31) kern::product32Loop(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
-            else kern::product32WideLoop(kern::Arr<T32s>{x1.data()}, b, d.data(), n, sf);
+            run(kern::Arr<T>{x1.data()}, b, d.data(), n, sf);
             for (int i = 0; i < n; ++i)
-                ASSERT_EQ(d[i], scaleSat<T32s>(int64_t(x1[i]) * kern::at(b, i), sf))
-                    << x1[i] << " * " << kern::at(b, i) << " sf " << sf << " " << what;
+                ASSERT_EQ(int64_t(d[i]), int64_t(scaleSat<T>(int64_t(x1[i]) * kern::at(b, i), sf)))
+                    << int64_t(x1[i]) << " * " << int64_t(kern::at(b, i)) << " sf " << sf << " " << what;
         };
-        check(kern::Arr<T32s>{x2.data()}, "vector");
-        for (size_t k = 0; k < f.size(); k += 5) check(kern::Bcast<T32s>{f[k]}, "constant");
+        check(kern::Arr<T>{x2.data()}, "vector");
+        for (size_t k = 0; k < f.size(); k += 5) check(kern::Bcast<T>{f[k]}, "constant");
     }
+}
+
+// Products of 32-bit integers rounded in 64-bit lanes, every scale factor
+// the lanes take.
+TEST(ProductKernels, Int32MatchesScalarRule) {
+    productsAgree(productFactors<T32s>(46341, 3, 60), 62, [](auto a, auto b, T32s* d, int n, int sf) {
+        if (sf <= 31) kern::product32Loop(a, b, d, n, sf);
+        else kern::product32WideLoop(a, b, d, n, sf);
+    });
 }
 
 // The product rule in lanes, fed with exact 64-bit values: for every scale
@@ -327,37 +348,13 @@ TEST(ProductKernels, Int32LoopsEveryLength) {
     }
 }
 
-// Products of 8u, 16u and 16s elements: range ends, powers of two and their
-// neighbours, random factors, all pairs, every scale factor 0..15.
+// Products of 8u, 16u and 16s elements, every scale factor 0..15.
 template <class T>
 void narrowProductsAgree() {
-    using L = std::numeric_limits<T>;
-    std::vector<int64_t> v = {L::min(), L::min() + 1, L::max(), L::max() - 1, 0, 1, -1, 3, -3, 181, -181};
-    for (int k = 1; k < 16; ++k)
-        for (int64_t e : {-1, 0, 1}) {
-            v.push_back((int64_t(1) << k) + e);
-            v.push_back(-(int64_t(1) << k) + e);
-        }
-    vt::Rng rng(70);
-    for (int i = 0; i < 30; ++i) v.push_back(rng.range(L::min(), L::max()));
-    std::vector<T> f;
-    for (int64_t x : v)
-        if (x >= L::min() && x <= L::max()) f.push_back(T(x));
-    std::vector<T> x1, x2;
-    allPairs(f, x1, x2);
-    const int n = int(x1.size());
-    std::vector<T> d(n);
-    for (int sf = 0; sf <= 15; ++sf) {
-        auto check = [&](auto b, const char* what) {
-            if (sf == 0) kern::narrowProductLoop<false, T>(kern::Arr<T>{x1.data()}, b, d.data(), n, sf);
-            else kern::narrowProductLoop<true, T>(kern::Arr<T>{x1.data()}, b, d.data(), n, sf);
-            for (int i = 0; i < n; ++i)
-                ASSERT_EQ(int64_t(d[i]), int64_t(scaleSat<T>(int64_t(x1[i]) * kern::at(b, i), sf)))
-                    << int64_t(x1[i]) << " * " << int64_t(kern::at(b, i)) << " sf " << sf << " " << what;
-        };
-        check(kern::Arr<T>{x2.data()}, "vector");
-        for (size_t k = 0; k < f.size(); k += 5) check(kern::Bcast<T>{f[k]}, "constant");
-    }
+    productsAgree(productFactors<T>(181, 1, 70), 15, [](auto a, auto b, T* d, int n, int sf) {
+        if (sf == 0) kern::narrowProductLoop<false, T>(a, b, d, n, sf);
+        else kern::narrowProductLoop<true, T>(a, b, d, n, sf);
+    });
 }
 
 TEST(ProductKernels, NarrowMatchScalarRule) {
