@@ -227,15 +227,13 @@ inline void sincoss(float x, float* s, float* c) {
     r = r - kf * C::c2;
     r = r - kf * C::c3;
     r = r - kf * C::c4;
-    // sin(r) = r + r z (s1 + s2 z + s3 z^2) and cos(r) = 1 + (z^2 (k1 + k2 z
-    // + k3 z^2) - z / 2), z = r^2; the terms of each sum are formed side by
-    // side, which keeps the chain of dependent operations short.
+    // sin(r) = r + r z (s1 + z (s2 + z s3)) and cos(r) = 1 + z (-1/2 +
+    // z (k1 + z (k2 + z k3))), z = r^2.
     const float z = r * r;
-    const float z2 = z * z;
-    const float ps = (C::s1 + C::s2 * z) + C::s3 * z2;
+    const float ps = C::s1 + z * (C::s2 + z * C::s3);
     const float sr = r + (r * z) * ps;
-    const float pc = (C::k1 + C::k2 * z) + C::k3 * z2;
-    const float cr = (pc * z2 - 0.5f * z) + 1.0f;
+    const float pc = C::k1 + z * (C::k2 + z * C::k3);
+    const float cr = 1.0f + z * (z * pc - 0.5f);
     const float so = (k & 1) ? cr : sr, co = (k & 1) ? sr : cr;
     const float sv = (k & 2) ? -so : so;
     *s = signBit(x) ? -sv : sv;
@@ -251,7 +249,7 @@ inline void sincoss(float x, float* s, float* c) {
 template <size_t G>
 inline int sincosvGroups(const __m128* x, __m128* s, __m128* c) {
     const SinCosLanes& V = *opaque(&kSinCosLanes);
-    __m128 kf[G], r[G], z[G], z2[G], sr[G], cr[G];
+    __m128 kf[G], r[G], z[G], sr[G], cr[G];
     __m128i k[G];
     for (size_t g = 0; g < G; ++g) {
         const __m128 ax = _mm_andnot_ps(V.signMask(), x[g]);
@@ -269,12 +267,11 @@ inline int sincosvGroups(const __m128* x, __m128* s, __m128* c) {
     for (size_t g = 0; g < G; ++g) r[g] = _mm_sub_ps(r[g], _mm_mul_ps(kf[g], V.c3()));
     for (size_t g = 0; g < G; ++g) r[g] = _mm_sub_ps(r[g], _mm_mul_ps(kf[g], V.c4()));
     for (size_t g = 0; g < G; ++g) z[g] = _mm_mul_ps(r[g], r[g]);
-    for (size_t g = 0; g < G; ++g) z2[g] = _mm_mul_ps(z[g], z[g]);
     for (size_t g = 0; g < G; ++g) {
-        const __m128 ps = _mm_add_ps(_mm_add_ps(V.s1(), _mm_mul_ps(V.s2(), z[g])), _mm_mul_ps(V.s3(), z2[g]));
-        const __m128 pc = _mm_add_ps(_mm_add_ps(V.k1(), _mm_mul_ps(V.k2(), z[g])), _mm_mul_ps(V.k3(), z2[g]));
+        const __m128 ps = _mm_add_ps(V.s1(), _mm_mul_ps(z[g], _mm_add_ps(V.s2(), _mm_mul_ps(z[g], V.s3()))));
+        const __m128 pc = _mm_add_ps(V.k1(), _mm_mul_ps(z[g], _mm_add_ps(V.k2(), _mm_mul_ps(z[g], V.k3()))));
         sr[g] = _mm_add_ps(r[g], _mm_mul_ps(_mm_mul_ps(r[g], z[g]), ps));
-        cr[g] = _mm_add_ps(_mm_sub_ps(_mm_mul_ps(pc, z2[g]), _mm_mul_ps(V.half(), z[g])), V.one());
+        cr[g] = _mm_add_ps(V.one(), _mm_mul_ps(z[g], _mm_sub_ps(_mm_mul_ps(z[g], pc), V.half())));
     }
     // Bit 0 of k, moved to the sign bit, selects the swapped polynomials;
     // bit 1 of k (of k + 1 for the cosine, which is bit 1 of k flipped by
