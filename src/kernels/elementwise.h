@@ -332,7 +332,9 @@ constexpr bool sumIsHalved() {
 }
 
 // The rule's result lanes for x + y (Diff: x - y), 1 <= sf within covers().
-template <class T, bool Diff>
+// Top: a 32-bit difference may round past the range, which happens only at
+// sf = 1.
+template <class T, bool Diff, bool Top>
 inline __m128i scaledSumLanes(__m128i x, __m128i y, const typename SumRound<T>::type& r) {
     if constexpr (std::is_unsigned<T>::value && Diff) {
         // max(x - y, 0): the result 0 for every negative difference, and at
@@ -366,10 +368,11 @@ inline __m128i scaledSumLanes(__m128i x, __m128i y, const typename SumRound<T>::
         static_assert(std::is_same<T, T32s>::value, "8u, 16u, 16s or 32s elements");
         if constexpr (Diff) {
             // Only (2^32 - 1) / 2 rounds past the range (to 2^31): q stays at
-            // the maximum there.
+            // the maximum there. From sf = 2 on every result is below 2^30.
             const __m128i f = _mm_sub_epi32(_mm_srai_epi32(_mm_xor_si128(x, y), 1), _mm_andnot_si128(x, y));
             const __m128i q = r.quotient(f);
-            const __m128i up = _mm_andnot_si128(_mm_cmpeq_epi32(q, _mm_set1_epi32(INT32_MAX)), r.up(q, _mm_sub_epi32(x, y)));
+            __m128i up = r.up(q, _mm_sub_epi32(x, y));
+            if constexpr (Top) up = _mm_andnot_si128(_mm_cmpeq_epi32(q, _mm_set1_epi32(INT32_MAX)), up);
             return _mm_sub_epi32(q, up);
         } else {
             // -2^32 <= x + y <= 2^32 - 2: the result stays in range.
@@ -400,16 +403,16 @@ constexpr bool scaledSumForm() {
     return sumOrDiff && types && LaneSource<S1>::value && LaneSource<S2>::value;
 }
 
-// d[i] = scaleSat(Op(a[i], b[i]), sf) for 1 <= sf within SumRound's covers().
-template <class Op, class T, class S1, class S2>
-inline void scaledSumLoop(S1 a, S2 b, T* d, int n, int sf) {
+// The loop of scaledSumLoop, with or without the test at the top of the range.
+template <class Op, class T, bool Top, class S1, class S2>
+inline void scaledSumSteps(S1 a, S2 b, T* d, int n, int sf) {
     constexpr bool diff = !std::is_same<Op, AddOp>::value;
     constexpr bool swap = std::is_same<Op, SubOp>::value;  // x2 - x1
     constexpr int W = 16 / static_cast<int>(sizeof(T));
     const typename SumRound<T>::type r(sf, sumIsHalved<T, diff>());
     auto one = [&](int i) {
         const __m128i x1 = sload(a, i), x2 = sload(b, i);
-        return swap ? scaledSumLanes<T, diff>(x2, x1, r) : scaledSumLanes<T, diff>(x1, x2, r);
+        return swap ? scaledSumLanes<T, diff, Top>(x2, x1, r) : scaledSumLanes<T, diff, Top>(x1, x2, r);
     };
     int i = 0;
     for (; i + 2 * W <= n; i += 2 * W) {
@@ -419,6 +422,14 @@ inline void scaledSumLoop(S1 a, S2 b, T* d, int n, int sf) {
     }
     for (; i + W <= n; i += W) sse::storeu(d + i, one(i));
     for (; i < n; ++i) d[i] = scaleSat<T>(Op::i(at(a, i), at(b, i)), sf);
+}
+
+// d[i] = scaleSat(Op(a[i], b[i]), sf) for 1 <= sf within SumRound's covers().
+template <class Op, class T, class S1, class S2>
+inline void scaledSumLoop(S1 a, S2 b, T* d, int n, int sf) {
+    constexpr bool top = std::is_same<T, T32s>::value && !std::is_same<Op, AddOp>::value;
+    if (top && sf >= 2) return scaledSumSteps<Op, T, false>(a, b, d, n, sf);
+    return scaledSumSteps<Op, T, top>(a, b, d, n, sf);
 }
 
 // ---- scaled products of 8u, 16u and 16s without widening loads -------------------
