@@ -5,9 +5,9 @@
 //   0  toward zero (truncating conversion, any rounding setting);
 //   1  to nearest, ties to even: the caller runs the loop with the
 //      processor's rounding set to nearest;
-//   2  to nearest, ties away from zero: |x| + 0.5 truncated with the sign put
-//      back; the caller runs the loop with the rounding set toward zero, so
-//      that the addition itself never rounds up.
+//   2  to nearest, ties away from zero: x plus 0.5 with the sign of x,
+//      truncated; the caller runs the loop with the rounding set toward
+//      zero, so that the addition itself never rounds away from zero.
 // The factor is a normal power of two, so the product is exact unless it
 // leaves the finite range, where the clamp gives the same result anyway.
 // Every loop has a scalar twin (head and tail) giving identical results.
@@ -44,8 +44,11 @@ inline __m128i roundToInt(__m128 y) {
     } else if constexpr (M == 1) {
         return _mm_cvtps_epi32(y);
     } else {
-        const __m128 a = _mm_add_ps(_mm_andnot_ps(_mm_set1_ps(-0.0f), y), _mm_set1_ps(0.5f));
-        return _mm_sign_epi32(_mm_cvttps_epi32(a), _mm_castps_si128(y));
+        // y + 0.5 with the sign of y (so -0 takes -0.5), rounded toward
+        // zero: the magnitude |y| + 0.5 rounded down, whichever the sign,
+        // then truncated.
+        const __m128 half = _mm_or_ps(_mm_and_ps(y, _mm_set1_ps(-0.0f)), _mm_set1_ps(0.5f));
+        return _mm_cvttps_epi32(_mm_add_ps(y, half));
     }
 }
 
@@ -101,13 +104,14 @@ struct Quad<double, TDst, M, Scaled> {
     __m128i operator()(const double* p) const {
         const __m128d a = load(p), b = load(p + 2);
         if constexpr (M == 2) {
-            // |y| + 0.5 truncated, then the sign of each value (the high
-            // word of a double carries it) put back on the four lanes.
-            const __m128d sign = _mm_set1_pd(-0.0), half = _mm_set1_pd(0.5);
-            const __m128i ia = _mm_cvttpd_epi32(_mm_add_pd(_mm_andnot_pd(sign, a), half));
-            const __m128i ib = _mm_cvttpd_epi32(_mm_add_pd(_mm_andnot_pd(sign, b), half));
-            const __m128 hiWords = _mm_shuffle_ps(_mm_castpd_ps(a), _mm_castpd_ps(b), _MM_SHUFFLE(3, 1, 3, 1));
-            return _mm_sign_epi32(_mm_unpacklo_epi64(ia, ib), _mm_castps_si128(hiWords));
+            // As for single precision: y plus 0.5 with y's sign, rounded
+            // toward zero, truncated. Here the 0.5 is blended by the sign
+            // bit (one instruction where the single-precision form takes
+            // two); each form measured the faster for its precision.
+            const __m128d pos = _mm_set1_pd(0.5), neg = _mm_set1_pd(-0.5);
+            const __m128i ia = _mm_cvttpd_epi32(_mm_add_pd(a, _mm_blendv_pd(pos, neg, a)));
+            const __m128i ib = _mm_cvttpd_epi32(_mm_add_pd(b, _mm_blendv_pd(pos, neg, b)));
+            return _mm_unpacklo_epi64(ia, ib);
         } else {
             return _mm_unpacklo_epi64(roundToInt<M>(a), roundToInt<M>(b));
         }
