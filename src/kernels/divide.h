@@ -294,14 +294,28 @@ inline __m128 fload4(Bcast<T> s, int) {
     return _mm_set1_ps(static_cast<float>(s.v));
 }
 
+// 8-bit results pack through signed 16-bit lanes, which keep every int32
+// lane's order (an unsigned first pack would turn 32768 and more negative).
 inline void store4(T8u* d, __m128i r) {
-    const __m128i w = _mm_packus_epi16(_mm_packus_epi32(r, r), r);
+    const __m128i w = _mm_packus_epi16(_mm_packs_epi32(r, r), r);
     const int32_t v = _mm_cvtsi128_si32(w);
     memcpy(d, &v, 4);
 }
 inline void store4(T16s* d, __m128i r) { sse::store64(d, _mm_packs_epi32(r, r)); }
 inline void store4(T16u* d, __m128i r) { sse::store64(d, _mm_packus_epi32(r, r)); }
 inline void store4(T32s* d, __m128i r) { sse::storeu(d, r); }
+
+// Eight results from two registers of four.
+inline void store8(T8u* d, __m128i r0, __m128i r1) {
+    const __m128i w = _mm_packs_epi32(r0, r1);
+    sse::store64(d, _mm_packus_epi16(w, w));
+}
+inline void store8(T16s* d, __m128i r0, __m128i r1) { sse::storeu(d, _mm_packs_epi32(r0, r1)); }
+inline void store8(T16u* d, __m128i r0, __m128i r1) { sse::storeu(d, _mm_packus_epi32(r0, r1)); }
+inline void store8(T32s* d, __m128i r0, __m128i r1) {
+    sse::storeu(d, r0);
+    sse::storeu(d + 4, r1);
+}
 
 // The mode argument: the processor's setting, or an explicit rounding mode.
 enum : int { kRoundCurrent = -1 };
@@ -348,41 +362,69 @@ inline __m128 roundV(__m128 v) {
     }
 }
 
-// d[i] = dividend[i] / divisor[i] * 2^-sf, rounded and saturated; returns
-// whether a divisor was zero. Requires 2^-sf * |quotient| to stay normal.
-template <class TD, int Mode, class SD, class SN>
-inline bool divideIntLoop(SD divisor, SN dividend, TD* d, int n, int sf) {
+// divideIntLoop's steps. Clamp: the quotients are clamped to the range in
+// single precision; without, they must stay inside the int32 range, and the
+// 8- and 16-bit packs saturate them.
+template <class TD, int Mode, bool Clamp, class SD, class SN>
+inline bool divideIntSteps(SD divisor, SN dividend, TD* d, int n, int sf) {
     const float scale = ldexpf(1.0f, -sf);
     const __m128 vscale = _mm_set1_ps(scale), zero = _mm_setzero_ps();
     const __m128 lo = _mm_set1_ps(floatLo<TD>()), hi = _mm_set1_ps(floatHi<TD>());
     const __m128i ilo = _mm_set1_epi32(static_cast<int>(Range<TD>::lo));
     const __m128i ihi = _mm_set1_epi32(static_cast<int>(Range<TD>::hi));
-    int zeroMask = 0;
-    int i = 0;
-    for (; i + 4 <= n; i += 4) {
-        const __m128 a = fload4(divisor, i), b = fload4(dividend, i);
-        const __m128 z = _mm_cmpeq_ps(a, zero);
-        const __m128 v = _mm_mul_ps(_mm_div_ps(b, _mm_or_ps(a, _mm_and_ps(z, _mm_set1_ps(1.0f)))), vscale);
-        __m128i r;
-        if constexpr (Mode == kRoundCurrent)
-            r = _mm_cvtps_epi32(_mm_max_ps(_mm_min_ps(v, hi), lo));
-        else
-            r = _mm_cvttps_epi32(_mm_max_ps(_mm_min_ps(roundV<Mode>(v), hi), lo));
+    // The rounded, saturated quotients of four lanes whose divisors are not zero.
+    auto quotients = [&](__m128 a, __m128 b) {
+        const __m128 v = _mm_mul_ps(_mm_div_ps(b, a), vscale);
+        const __m128 w = Mode == kRoundCurrent ? v : roundV<Mode>(v);
+        const __m128 c = Clamp ? _mm_max_ps(_mm_min_ps(w, hi), lo) : w;
+        __m128i r = Mode == kRoundCurrent ? _mm_cvtps_epi32(c) : _mm_cvttps_epi32(c);
         if constexpr (sizeof(TD) == 4)
             r = _mm_blendv_epi8(r, ihi, _mm_castps_si128(_mm_cmpge_ps(v, _mm_set1_ps(2147483648.0f))));
-        // zero divisors: 0, or the end of the range by the dividend's sign
+        return r;
+    };
+    // Any four lanes: zero divisors take 1 in their place for the division
+    // (no infinity, no flag), then give 0, or the end of the range by the
+    // dividend's sign.
+    int zeroMask = 0;
+    auto any = [&](__m128 a, __m128 b) {
+        const __m128 z = _mm_cmpeq_ps(a, zero);
+        zeroMask |= _mm_movemask_ps(z);
+        const __m128i r = quotients(_mm_or_ps(a, _mm_and_ps(z, _mm_set1_ps(1.0f))), b);
         const __m128i sub = _mm_or_si128(_mm_and_si128(_mm_castps_si128(_mm_cmpgt_ps(b, zero)), ihi),
                                          _mm_and_si128(_mm_castps_si128(_mm_cmplt_ps(b, zero)), ilo));
-        r = _mm_blendv_epi8(r, sub, _mm_castps_si128(z));
-        zeroMask |= _mm_movemask_ps(z);
-        store4(d + i, r);
+        return _mm_blendv_epi8(r, sub, _mm_castps_si128(z));
+    };
+    int i = 0;
+    // Eight lanes a step; a step without a zero divisor skips the
+    // substitution.
+    for (; i + 8 <= n; i += 8) {
+        const __m128 a0 = fload4(divisor, i), b0 = fload4(dividend, i);
+        const __m128 a1 = fload4(divisor, i + 4), b1 = fload4(dividend, i + 4);
+        if (_mm_movemask_ps(_mm_or_ps(_mm_cmpeq_ps(a0, zero), _mm_cmpeq_ps(a1, zero))) == 0)
+            store8(d + i, quotients(a0, b0), quotients(a1, b1));
+        else
+            store8(d + i, any(a0, b0), any(a1, b1));
     }
+    for (; i + 4 <= n; i += 4) store4(d + i, any(fload4(divisor, i), fload4(dividend, i)));
     for (; i < n; ++i) {
         const float a = static_cast<float>(at(divisor, i)), b = static_cast<float>(at(dividend, i));
         zeroMask |= a == 0.0f;
         d[i] = divScaled<TD, Mode>(a, b, scale);
     }
     return zeroMask != 0;
+}
+
+// d[i] = dividend[i] / divisor[i] * 2^-sf, rounded and saturated; returns
+// whether a divisor was zero. Requires 2^-sf * |quotient| to stay normal.
+// A quotient is at most its dividend in magnitude (a divisor that is not
+// zero is at least 1): for 8- and 16-bit dividends below 2^16, so from
+// sf = -14 on below 2^31, needing no clamp before the packs of 8- and
+// 16-bit destinations.
+template <class TD, int Mode, class SD, class SN>
+inline bool divideIntLoop(SD divisor, SN dividend, TD* d, int n, int sf) {
+    constexpr bool packs = sizeof(TD) < 4 && sizeof(typename SN::Elem) <= 2;
+    if (packs && sf >= -14) return divideIntSteps<TD, Mode, false>(divisor, dividend, d, n, sf);
+    return divideIntSteps<TD, Mode, true>(divisor, dividend, d, n, sf);
 }
 
 // Scalar twin of the whole loop, for the kernel tests.

@@ -96,7 +96,7 @@ void divideAllDividends(const std::vector<int>& divisors) {
     for (int64_t x = L::min(); x <= L::max(); ++x) num.push_back(T(x));
     std::vector<T> v(num.size());
     for (int dv : divisors) {
-        for (int sf : {0, 3, -4}) {
+        for (int sf : {0, 3, -4, -14, -15, -30}) {
             divideAllDividends<T, VEK_ROUND_ZERO>(num, dv, sf, v);
             divideAllDividends<T, VEK_ROUND_NEAR>(num, dv, sf, v);
             divideAllDividends<T, VEK_ROUND_HALF_AWAY>(num, dv, sf, v);
