@@ -292,6 +292,8 @@ SCALED(AddC_32s_Sfs, T32s, veksAddC_32s_Sfs(a, b[0], d, n, kSf), (scalarScaledC<
 SCALED(SubC_32s_Sfs, T32s, veksSubC_32s_Sfs(a, b[0], d, n, kSf), (scalarScaledC<T32s, 1>(a, b[0], d, n, kSf)))
 SCALED(MulC_32s_Sfs, T32s, veksMulC_32s_Sfs(a, b[0], d, n, kSf), (scalarScaledC<T32s, 2>(a, b[0], d, n, kSf)))
 SCALED(Div_16s_Sfs, T16s, veksDiv_16s_Sfs(a, b, d, n, kSf), (scalarDiv<T16s>(a, b, d, n, kSf)))
+SCALED(Div_16u_Sfs, T16u, veksDiv_16u_Sfs(a, b, d, n, kSf), (scalarDiv<T16u>(a, b, d, n, kSf)))
+SCALED(Div_8u_Sfs, T8u, veksDiv_8u_Sfs(a, b, d, n, kSf), (scalarDiv<T8u>(a, b, d, n, kSf)))
 
 // memcpy of the same traffic as a two-source operation over kLong elements
 // of the given width: 3 * width * n bytes moved, so 1.5 * width * n copied.

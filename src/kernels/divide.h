@@ -294,8 +294,7 @@ inline __m128 fload4(Bcast<T> s, int) {
     return _mm_set1_ps(static_cast<float>(s.v));
 }
 
-// 8-bit results pack through signed 16-bit lanes, which keep every int32
-// lane's order (an unsigned first pack would turn 32768 and more negative).
+// 8-bit results pack through signed 16-bit lanes (see sse::pack8).
 inline void store4(T8u* d, __m128i r) {
     const __m128i w = _mm_packus_epi16(_mm_packs_epi32(r, r), r);
     const int32_t v = _mm_cvtsi128_si32(w);
@@ -305,13 +304,8 @@ inline void store4(T16s* d, __m128i r) { sse::store64(d, _mm_packs_epi32(r, r));
 inline void store4(T16u* d, __m128i r) { sse::store64(d, _mm_packus_epi32(r, r)); }
 inline void store4(T32s* d, __m128i r) { sse::storeu(d, r); }
 
-// Eight results from two registers of four.
-inline void store8(T8u* d, __m128i r0, __m128i r1) {
-    const __m128i w = _mm_packs_epi32(r0, r1);
-    sse::store64(d, _mm_packus_epi16(w, w));
-}
-inline void store8(T16s* d, __m128i r0, __m128i r1) { sse::storeu(d, _mm_packs_epi32(r0, r1)); }
-inline void store8(T16u* d, __m128i r0, __m128i r1) { sse::storeu(d, _mm_packus_epi32(r0, r1)); }
+template <class TD>
+inline void store8(TD* d, __m128i r0, __m128i r1) { sse::pack8(d, r0, r1); }
 inline void store8(T32s* d, __m128i r0, __m128i r1) {
     sse::storeu(d, r0);
     sse::storeu(d + 4, r1);

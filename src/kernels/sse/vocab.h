@@ -35,12 +35,13 @@ inline Wide8 widen8(const T8u* p) {
     return {_mm_cvtepu8_epi32(v), _mm_cvtepu8_epi32(_mm_srli_si128(v, 4))};
 }
 
-// Lanes already inside the destination range, packed and stored (eight
-// elements).
+// Eight int32 lanes saturated to the destination type by the packs, and
+// stored. 8-bit results pass through signed 16-bit lanes, which keep every
+// lane's order (an unsigned first pack would turn 32768 and more negative).
 inline void pack8(T16s* d, __m128i lo, __m128i hi) { storeu(d, _mm_packs_epi32(lo, hi)); }
 inline void pack8(T16u* d, __m128i lo, __m128i hi) { storeu(d, _mm_packus_epi32(lo, hi)); }
 inline void pack8(T8u* d, __m128i lo, __m128i hi) {
-    const __m128i w = _mm_packus_epi32(lo, hi);
+    const __m128i w = _mm_packs_epi32(lo, hi);
     store64(d, _mm_packus_epi16(w, w));
 }
 
