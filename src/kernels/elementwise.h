@@ -534,10 +534,21 @@ inline void product32Loop(S1 a, S2 b, T32s* d, int n, int sf) {
         return r.template apply<F>(_mm_mul_epi32(x, y), _mm_mul_epi32(xo, yo));
     };
     int i = 0;
+    // Eight products a step; a step whose results all fit skips the
+    // saturation.
     for (; i + 8 < n; i += 8) {
         const __m128i x0 = sload(a, i), y0 = sload(b, i), x1 = sload(a, i + 4), y1 = sload(b, i + 4);
-        const __m128i r0 = four(x0, y0, sload(a, i + 1), sload(b, i + 1));
-        const __m128i r1 = four(x1, y1, sload(a, i + 5), sload(b, i + 5));
+        const __m128i e0 = _mm_mul_epi32(x0, y0), o0 = _mm_mul_epi32(sload(a, i + 1), sload(b, i + 1));
+        const __m128i e1 = _mm_mul_epi32(x1, y1), o1 = _mm_mul_epi32(sload(a, i + 5), sload(b, i + 5));
+        const auto q0 = r.template quotients<F>(e0, o0), q1 = r.template quotients<F>(e1, o1);
+        __m128i r0, r1;
+        if (_mm_testz_si128(_mm_or_si128(q0.high, q1.high), _mm_set1_epi32(-1))) {
+            r0 = r.fitting(q0);
+            r1 = r.fitting(q1);
+        } else {
+            r0 = r.template saturated<F>(q0, e0, o0);
+            r1 = r.template saturated<F>(q1, e1, o1);
+        }
         sse::storeu(d + i, r0);
         sse::storeu(d + i + 4, r1);
     }

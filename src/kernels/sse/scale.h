@@ -248,33 +248,53 @@ public:
         __asm__("" : "+x"(minus1_));
     }
 
+    // The biased quotients of four products: v's high halves (all zero
+    // where every result fits) and its low halves with the tie step, in the
+    // lane order 0, 2, 1, 3.
+    struct Quotients {
+        __m128i high, low;
+    };
+
     // ev: exact products of elements 0 and 2 (pmuldq), od: of elements 1
-    // and 3. Results in element order. F must be formOf(sf).
+    // and 3. F must be formOf(sf).
     template <Form F>
-    __m128i apply(__m128i ev, __m128i od) const {
+    Quotients quotients(__m128i ev, __m128i od) const {
         __m128i ve = _mm_add_epi64(ev, bias_), vo = _mm_add_epi64(od, bias_);
         if constexpr (F != Form::Unscaled) {
             ve = _mm_srl_epi64(ve, cnt_);
             vo = _mm_srl_epi64(vo, cnt_);
         }
-        const __m128i vHigh = highHalves(ve, vo);
         __m128i low = lowHalves(ve, vo);
         if constexpr (F != Form::Unscaled) {
             const __m128i down = _mm_cmpeq_epi32(_mm_and_si128(lowHalves(ev, od), tieMask_), tie_);  // -1: t steps down
             low = _mm_add_epi32(low, down);
         }
+        return {highHalves(ve, vo), low};
+    }
+
+    // The results in element order, where every one fits (q.high is zero).
+    __m128i fitting(Quotients q) const { return order(_mm_xor_si128(q.low, flip_)); }
+
+    // The results in element order, saturated where they do not fit.
+    template <Form F>
+    __m128i saturated(Quotients q, __m128i ev, __m128i od) const {
         // The range ends, biased like v: 2^32 - 1 (INT32_MAX) where the
         // product is not negative, 0 (INT32_MIN) where it is.
         __m128i end;
-        if constexpr (F == Form::Unscaled) end = _mm_cmpgt_epi32(vHigh, minus1_);
-        else if constexpr (F == Form::Scaled) end = _mm_cmpgt_epi32(posEnd_, vHigh);
+        if constexpr (F == Form::Unscaled) end = _mm_cmpgt_epi32(q.high, minus1_);
+        else if constexpr (F == Form::Scaled) end = _mm_cmpgt_epi32(posEnd_, q.high);
         else end = _mm_cmpgt_epi32(highHalves(ev, od), minus1_);
-        const __m128i fits = _mm_cmpeq_epi32(vHigh, _mm_setzero_si128());
-        const __m128i r = _mm_xor_si128(_mm_blendv_epi8(end, low, fits), flip_);
-        return _mm_shuffle_epi32(r, _MM_SHUFFLE(3, 1, 2, 0));
+        const __m128i fits = _mm_cmpeq_epi32(q.high, _mm_setzero_si128());
+        return order(_mm_xor_si128(_mm_blendv_epi8(end, q.low, fits), flip_));
+    }
+
+    template <Form F>
+    __m128i apply(__m128i ev, __m128i od) const {
+        return saturated<F>(quotients<F>(ev, od), ev, od);
     }
 
 private:
+    static __m128i order(__m128i r) { return _mm_shuffle_epi32(r, _MM_SHUFFLE(3, 1, 2, 0)); }
     static __m128i lowHalves(__m128i ev, __m128i od) {
         return _mm_castps_si128(_mm_shuffle_ps(_mm_castsi128_ps(ev), _mm_castsi128_ps(od), _MM_SHUFFLE(2, 0, 2, 0)));
     }
