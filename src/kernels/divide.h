@@ -340,20 +340,14 @@ inline TD divScaled(float divisor, float dividend, float scale) {
     }
 }
 
-template <int Mode>
-inline __m128 roundV(__m128 v) {
-    if constexpr (Mode == VEK_ROUND_ZERO) {
-        return _mm_round_ps(v, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
-    } else if constexpr (Mode == VEK_ROUND_NEAR) {
-        return _mm_round_ps(v, _MM_FROUND_TO_NEAREST_INT | _MM_FROUND_NO_EXC);
-    } else {
-        // ties away from zero: truncate, then step away when |v - t| >= 1/2
-        const __m128 t = _mm_round_ps(v, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
-        const __m128 absMask = _mm_castsi128_ps(_mm_set1_epi32(0x7fffffff));
-        const __m128 far = _mm_cmpge_ps(_mm_and_ps(_mm_sub_ps(v, t), absMask), _mm_set1_ps(0.5f));
-        const __m128 step = _mm_or_ps(_mm_set1_ps(1.0f), _mm_andnot_ps(absMask, v));  // +-1 by the sign of v
-        return _mm_add_ps(t, _mm_and_ps(far, step));
-    }
+// Rounded to an integral value, ties away from zero: truncate, then step
+// away when |v - t| >= 1/2.
+inline __m128 roundHalfAway(__m128 v) {
+    const __m128 t = _mm_round_ps(v, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
+    const __m128 absMask = _mm_castsi128_ps(_mm_set1_epi32(0x7fffffff));
+    const __m128 far = _mm_cmpge_ps(_mm_and_ps(_mm_sub_ps(v, t), absMask), _mm_set1_ps(0.5f));
+    const __m128 step = _mm_or_ps(_mm_set1_ps(1.0f), _mm_andnot_ps(absMask, v));  // +-1 by the sign of v
+    return _mm_add_ps(t, _mm_and_ps(far, step));
 }
 
 // divideIntLoop's steps. Clamp: the quotients are clamped to the range in
@@ -368,10 +362,14 @@ inline bool divideIntSteps(SD divisor, SN dividend, TD* d, int n, int sf) {
     const __m128i ihi = _mm_set1_epi32(static_cast<int>(Range<TD>::hi));
     // The rounded, saturated quotients of four lanes whose divisors are not zero.
     auto quotients = [&](__m128 a, __m128 b) {
+        // The clamp's bounds are integers, so it commutes with the rounding.
+        // Toward zero is the truncating conversion; to nearest (ties to
+        // even) the converting one, under the setting the caller forced.
         const __m128 v = _mm_mul_ps(_mm_div_ps(b, a), vscale);
-        const __m128 w = Mode == kRoundCurrent ? v : roundV<Mode>(v);
+        const __m128 w = Mode == VEK_ROUND_HALF_AWAY ? roundHalfAway(v) : v;
         const __m128 c = Clamp ? _mm_max_ps(_mm_min_ps(w, hi), lo) : w;
-        __m128i r = Mode == kRoundCurrent ? _mm_cvtps_epi32(c) : _mm_cvttps_epi32(c);
+        constexpr bool converting = Mode == kRoundCurrent || Mode == VEK_ROUND_NEAR;
+        __m128i r = converting ? _mm_cvtps_epi32(c) : _mm_cvttps_epi32(c);
         if constexpr (sizeof(TD) == 4)
             r = _mm_blendv_epi8(r, ihi, _mm_castps_si128(_mm_cmpge_ps(v, _mm_set1_ps(2147483648.0f))));
         return r;
@@ -410,6 +408,8 @@ inline bool divideIntSteps(SD divisor, SN dividend, TD* d, int n, int sf) {
 
 // d[i] = dividend[i] / divisor[i] * 2^-sf, rounded and saturated; returns
 // whether a divisor was zero. Requires 2^-sf * |quotient| to stay normal.
+// Mode kRoundCurrent rounds by the processor's setting; for the explicit
+// modes the caller sets it to nearest first.
 // A quotient is at most its dividend in magnitude (a divisor that is not
 // zero is at least 1): for 8- and 16-bit dividends below 2^16, so from
 // sf = -14 on below 2^31, needing no clamp before the packs of 8- and
