@@ -310,6 +310,31 @@ inline void store8(T32s* d, __m128i r0, __m128i r1) {
     sse::storeu(d, r0);
     sse::storeu(d + 4, r1);
 }
+template <class TD>
+inline void store16(TD* d, __m128i r0, __m128i r1, __m128i r2, __m128i r3) {
+    store8(d, r0, r1);
+    store8(d + 8, r2, r3);
+}
+inline void store16(T8u* d, __m128i r0, __m128i r1, __m128i r2, __m128i r3) { sse::pack16(d, r0, r1, r2, r3); }
+
+// Whether none of sixteen divisors from i on is zero, tested on the
+// integers as they lie in memory: one compare for 8-bit divisors.
+template <class T>
+inline bool noZero16(Arr<T> s, int i) {
+    const __m128i zero = _mm_setzero_si128();
+    __m128i z = zero;
+    for (int k = 0; k < int(sizeof(T)); ++k) {
+        const __m128i v = sse::loadu(s.p + i + k * (16 / int(sizeof(T))));
+        if constexpr (sizeof(T) == 1) z = _mm_cmpeq_epi8(v, zero);
+        else if constexpr (sizeof(T) == 2) z = _mm_or_si128(z, _mm_cmpeq_epi16(v, zero));
+        else z = _mm_or_si128(z, _mm_cmpeq_epi32(v, zero));
+    }
+    return _mm_movemask_epi8(z) == 0;
+}
+template <class T>
+inline bool noZero16(Bcast<T> s, int) {
+    return s.v != 0;
+}
 
 // The mode argument: the processor's setting, or an explicit rounding mode.
 enum : int { kRoundCurrent = -1 };
@@ -387,15 +412,14 @@ inline bool divideIntSteps(SD divisor, SN dividend, TD* d, int n, int sf) {
         return _mm_blendv_epi8(r, sub, _mm_castps_si128(z));
     };
     int i = 0;
-    // Eight lanes a step; a step without a zero divisor skips the
+    // Sixteen lanes a step; a step without a zero divisor skips the
     // substitution.
-    for (; i + 8 <= n; i += 8) {
-        const __m128 a0 = fload4(divisor, i), b0 = fload4(dividend, i);
-        const __m128 a1 = fload4(divisor, i + 4), b1 = fload4(dividend, i + 4);
-        if (_mm_movemask_ps(_mm_or_ps(_mm_cmpeq_ps(a0, zero), _mm_cmpeq_ps(a1, zero))) == 0)
-            store8(d + i, quotients(a0, b0), quotients(a1, b1));
+    for (; i + 16 <= n; i += 16) {
+        auto four = [&](int k, auto f) { return f(fload4(divisor, i + k), fload4(dividend, i + k)); };
+        if (noZero16(divisor, i))
+            store16(d + i, four(0, quotients), four(4, quotients), four(8, quotients), four(12, quotients));
         else
-            store8(d + i, any(a0, b0), any(a1, b1));
+            store16(d + i, four(0, any), four(4, any), four(8, any), four(12, any));
     }
     for (; i + 4 <= n; i += 4) store4(d + i, any(fload4(divisor, i), fload4(dividend, i)));
     for (; i < n; ++i) {

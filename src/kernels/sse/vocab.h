@@ -45,5 +45,10 @@ inline void pack8(T8u* d, __m128i lo, __m128i hi) {
     store64(d, _mm_packus_epi16(w, w));
 }
 
+// Sixteen int32 lanes saturated to 8-bit results, the same way, in one store.
+inline void pack16(T8u* d, __m128i r0, __m128i r1, __m128i r2, __m128i r3) {
+    storeu(d, _mm_packus_epi16(_mm_packs_epi32(r0, r1), _mm_packs_epi32(r2, r3)));
+}
+
 }  // namespace sse
 }  // namespace veks
