@@ -255,16 +255,23 @@ inline const FloatSpec<T>* head(const void* spec) {
     return static_cast<const FloatSpec<T>*>(spec);
 }
 
-// Reads a complex spec (order = the transform order).
+// The fields both kinds of spec share; no tables yet.
 template <class T>
-View<T> complexView(const void* spec) {
-    const FloatSpec<T>* h = head<T>(spec);
+View<T> headView(const FloatSpec<T>* h) {
     View<T> v{};
     v.order = h->f.order;
     v.fwdScale = h->f.fwdScale != 0;
     v.invScale = h->f.invScale != 0;
     v.scale = h->f.scale;
     v.workSize = h->f.workSize;
+    return v;
+}
+
+// Reads a complex spec (order = the transform order).
+template <class T>
+View<T> complexView(const void* spec) {
+    const FloatSpec<T>* h = head<T>(spec);
+    View<T> v = headView(h);
     if (v.order > kComplexFixedMax) {
         v.tw = static_cast<const Cx<T>*>(h->twiddle.p);
         if (v.order >= Prec<T>::kLargeFrom) {
@@ -280,12 +287,7 @@ View<T> complexView(const void* spec) {
 template <class T>
 View<T> realView(const void* spec) {
     const FloatSpec<T>* h = head<T>(spec);
-    View<T> v{};
-    v.order = h->f.order;
-    v.fwdScale = h->f.fwdScale != 0;
-    v.invScale = h->f.invScale != 0;
-    v.scale = h->f.scale;
-    v.workSize = h->f.workSize;
+    View<T> v = headView(h);
     if (v.order > kRealFixedMax) {
         if (v.order >= 7) {
             v.tw = static_cast<const Cx<T>*>(h->twiddle.p);
