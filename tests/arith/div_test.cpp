@@ -196,6 +196,46 @@ TEST(Div, LongOutputs) {
     EXPECT_EQ(rows, 6);
 }
 
+// An integer division by a vector with one zero divisor among ordinary
+// ones, at every position of vectors a few steps long, with a positive,
+// negative and zero dividend there: the substitute and the warning come from
+// that element alone, wherever it sits in its step.
+template <class T1, class T2, class TD>
+void oneZeroDivisor(const at::Case<T1, T2, TD>& c, int& rows) {
+    if constexpr (std::is_integral<T1>::value) {
+        if (c.shape != Shape::Binary && c.shape != Shape::BinaryInPlace) return;
+        ++rows;
+        SCOPED_TRACE(c.name);
+        vt::Rng rng(31);
+        const T2 dividends[] = {T2(7), std::is_signed<T2>::value ? T2(-7) : T2(200), T2(0)};
+        for (int n : {16, 37}) {
+            for (int pos = 0; pos < n; ++pos) {
+                for (T2 b : dividends) {
+                    SCOPED_TRACE("len " + std::to_string(n) + " at " + std::to_string(pos));
+                    std::vector<T1> x1 = at::data<T1>(rng, n);
+                    std::vector<T2> x2 = at::data<T2>(rng, n);
+                    for (T1& a : x1)
+                        if (a == 0) a = 1;
+                    x1[pos] = 0;
+                    x2[pos] = b;
+                    std::vector<TD> want = at::data<TD>(rng, n), got = want;
+                    if (c.shape == Shape::BinaryInPlace) memcpy(want.data(), x2.data(), n * sizeof(TD));
+                    const VekResult st = c.refv(x1.data(), x2.data(), want.data(), n, 3);
+                    EXPECT_EQ(c.call(x1.data(), x2.data(), got.data(), T2(), n, 3), st);
+                    const TD* out = c.shape == Shape::BinaryInPlace ? reinterpret_cast<const TD*>(x2.data()) : got.data();
+                    ASSERT_TRUE(at::sameAll(out, want));
+                }
+            }
+        }
+    }
+}
+
+TEST(Div, OneZeroDivisorAnywhere) {
+    int rows = 0;
+    visitDiv([&](const auto& c) { oneZeroDivisor(c, rows); });
+    EXPECT_EQ(rows, 9 + 2 * 3 * 6);  // Div and Div_Round (every mode, and three refused ones)
+}
+
 TEST(Div, ChecksBeforeWriting) {
     visitDiv([](const auto& c) { at::contract(c); });
 }
